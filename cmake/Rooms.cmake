@@ -1,0 +1,37 @@
+# A room is one folder of src/: one static library, with a QML module where it has QML. What a room
+# links is what it may include, so the link lines keep the doors between the rooms one-way.
+
+add_library(kovamo_options INTERFACE)
+target_compile_options(kovamo_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+                                                -Wnon-virtual-dtor -Werror)
+target_compile_definitions(kovamo_options INTERFACE QT_NO_CAST_TO_ASCII QT_NO_FOREACH
+                                                    QT_NO_KEYWORDS QT_USE_QSTRINGBUILDER)
+target_include_directories(kovamo_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
+
+# kovamo_room(name SOURCES … LINKS …): a room without QML.
+function(kovamo_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(kovamo_${name} STATIC ${ROOM_SOURCES})
+    target_link_libraries(kovamo_${name} PUBLIC kovamo_options ${ROOM_LINKS})
+endfunction()
+
+# kovamo_qml_room(name URI Kovamo.Name SOURCES … QML … SINGLETONS … RESOURCES … IMPORTS … LINKS …):
+# a room that is a QML module too.
+function(kovamo_qml_room name)
+    cmake_parse_arguments(ROOM "" "URI" "SOURCES;QML;SINGLETONS;RESOURCES;IMPORTS;LINKS" ${ARGN})
+    set_source_files_properties(${ROOM_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    qt_add_library(kovamo_${name} STATIC)
+    string(REPLACE "." "/" path ${ROOM_URI})
+    qt_add_qml_module(kovamo_${name}
+        URI ${ROOM_URI}
+        VERSION 1.0
+        RESOURCE_PREFIX /qt/qml
+        OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${path}
+        IMPORT_PATH ${PROJECT_BINARY_DIR}/qml
+        IMPORTS ${ROOM_IMPORTS}
+        SOURCES ${ROOM_SOURCES}
+        QML_FILES ${ROOM_QML} ${ROOM_SINGLETONS}
+        RESOURCES ${ROOM_RESOURCES})
+    target_include_directories(kovamo_${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    target_link_libraries(kovamo_${name} PUBLIC kovamo_options Qt6::Qml ${ROOM_LINKS})
+endfunction()

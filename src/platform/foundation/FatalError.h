@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QString>
+
+namespace kovamo {
+
+/// Stops the program: writes "Fatal error: " and `message` as one line to standard error and
+/// aborts. For programming errors and for the failures that the system does not survive.
+[[noreturn]] void fatalError(const QString& message);
+
+} // namespace kovamo

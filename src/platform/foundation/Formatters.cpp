@@ -1,0 +1,73 @@
+#include "Formatters.h"
+
+#include "FatalError.h"
+#include "Locale.h"
+
+#include <memory>
+#include <unicode/datefmt.h>
+#include <unicode/numfmt.h>
+#include <unicode/numsys.h>
+#include <unicode/smpdtfmt.h>
+
+namespace kovamo {
+
+namespace {
+
+icu::UnicodeString toIcu(const QString& text) {
+    return {reinterpret_cast<const char16_t*>(text.utf16()), static_cast<int32_t>(text.size())};
+}
+
+QString toQt(const icu::UnicodeString& text) {
+    return QString::fromUtf16(text.getBuffer(), text.length());
+}
+
+void require(UErrorCode status, const char* what) {
+    if (U_FAILURE(status))
+        fatalError(QStringLiteral("No formatter for %1: %2")
+                       .arg(QLatin1String(what), QLatin1String(u_errorName(status))));
+}
+
+QString wholeNumberText(std::int64_t number, UNumberFormatStyle style) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::NumberFormat> format(
+        icu::NumberFormat::createInstance(moneyLocale(), style, status));
+    require(status, "numbers");
+    format->setMinimumFractionDigits(0);
+    format->setMaximumFractionDigits(0);
+    icu::UnicodeString text;
+    format->format(number, text);
+    if (text.isEmpty())
+        fatalError(QStringLiteral("The formatter returned no text for %1").arg(number));
+    return toQt(text);
+}
+
+QString formatted(const icu::DateFormat& format, Instant instant) {
+    icu::UnicodeString text;
+    format.format(static_cast<UDate>(instant.time_since_epoch().count()), text);
+    return toQt(text);
+}
+
+} // namespace
+
+QString currencyText(std::int64_t amount) { return wholeNumberText(amount, UNUM_CURRENCY); }
+
+QString numberText(std::int64_t number) { return wholeNumberText(number, UNUM_DECIMAL); }
+
+QString digitText(int digit) { return numberText(digit); }
+
+QString dateText(Instant instant, const QString& pattern) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::SimpleDateFormat format(toIcu(pattern), dateLocale(), status);
+    require(status, "dates");
+    return formatted(format, instant);
+}
+
+QString localizedDateText(Instant instant, const QString& skeleton) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateFormat> format(
+        icu::DateFormat::createInstanceForSkeleton(toIcu(skeleton), dateLocale(), status));
+    require(status, "dates");
+    return formatted(*format, instant);
+}
+
+} // namespace kovamo

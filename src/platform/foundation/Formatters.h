@@ -1,0 +1,28 @@
+#pragma once
+
+#include "Clock.h"
+
+#include <QString>
+#include <cstdint>
+
+namespace kovamo {
+
+/// A whole amount as money in the user's locale: currency style, its symbol, digits and grouping,
+/// no fraction. A formatter that yields no text is a fatal error.
+[[nodiscard]] QString currencyText(std::int64_t amount);
+
+/// A whole number in the digits and grouping of the user's locale for money, without a currency.
+[[nodiscard]] QString numberText(std::int64_t number);
+
+/// The digit 0 … 9 as the user's locale for money writes it.
+[[nodiscard]] QString digitText(int digit);
+
+/// `instant` written by a fixed date pattern (such as "MM/dd") in the user's locale, calendar and
+/// zone. The pattern's letters are those of Unicode's LDML.
+[[nodiscard]] QString dateText(Instant instant, const QString& pattern);
+
+/// `instant` with the fields of a skeleton (such as "y" or "yMMMd") in the order and form that
+/// the user's locale prefers.
+[[nodiscard]] QString localizedDateText(Instant instant, const QString& skeleton);
+
+} // namespace kovamo

@@ -1,0 +1,48 @@
+#include "World.h"
+
+#include <QDir>
+#include <gtest/gtest.h>
+#include <unicode/gregocal.h>
+#include <unicode/smpdtfmt.h>
+#include <unicode/timezone.h>
+
+namespace kovamo {
+
+World::World(const char* local, const char* zone, const char* locale) {
+    icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(zone));
+    qputenv("LC_ALL", locale);
+    for (const char* variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
+        const QString folder = m_folder.filePath(QString::fromLatin1(variable).toLower());
+        QDir().mkpath(folder);
+        qputenv(variable, folder.toUtf8());
+    }
+    setTime(local);
+}
+
+World::~World() { Clock::setSource({}); }
+
+void World::setTime(const char* local) {
+    Clock::setSource([now = at(local)] { return now; });
+}
+
+Instant at(const char* local) {
+    int year = 0, month = 0, day = 0, hour = 0, minute = 0, second = 0, millisecond = 0;
+    const int read = std::sscanf(local, "%d-%d-%d %d:%d:%d.%d", &year, &month, &day, &hour, &minute,
+                                 &second, &millisecond);
+    EXPECT_GE(read, 3) << local;
+    UErrorCode status = U_ZERO_ERROR;
+    icu::GregorianCalendar calendar(year, month - 1, day, hour, minute, second, status);
+    const auto whole = static_cast<std::int64_t>(calendar.getTime(status));
+    return Instant(std::chrono::milliseconds(whole + millisecond));
+}
+
+std::string text(Instant instant) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::SimpleDateFormat format("yyyy-MM-dd HH:mm:ss.SSS", icu::Locale::getRoot(), status);
+    icu::UnicodeString words;
+    std::string utf8;
+    format.format(static_cast<UDate>(instant.time_since_epoch().count()), words);
+    return words.toUTF8String(utf8);
+}
+
+} // namespace kovamo

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/foundation/Calendar.h"
+
+#include <QTemporaryDir>
+
+namespace kovamo {
+
+/// The world of one test: a scratch folder for data, config, cache and home, and a clock that
+/// stands at `local` o'clock ("2024-05-15 10:00") of a zone, in one locale.
+class World {
+  public:
+    explicit World(const char* local, const char* zone = "Europe/Berlin",
+                   const char* locale = "en_US.UTF-8");
+    ~World();
+    Q_DISABLE_COPY_MOVE(World)
+
+    /// Sets the clock to a moment of the zone.
+    void setTime(const char* local);
+
+    /// The scratch folder, which goes with the value.
+    [[nodiscard]] QString folder() const { return m_folder.path(); }
+
+  private:
+    QTemporaryDir m_folder;
+};
+
+/// The instant of "2024-05-15" or "2024-05-15 10:00" or "2024-05-15 10:00:00.123", Gregorian, in
+/// the zone of the world.
+[[nodiscard]] Instant at(const char* local);
+
+/// The Gregorian text of an instant in the zone of the world: "2024-05-15 10:00:00.000".
+[[nodiscard]] std::string text(Instant instant);
+
+} // namespace kovamo
