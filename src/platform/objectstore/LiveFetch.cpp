@@ -1,0 +1,100 @@
+#include "LiveFetch.h"
+
+#include "StoreError.h"
+
+#include <algorithm>
+
+namespace kovamo {
+
+LiveFetch::LiveFetch(ManagedObjectContext& context, FetchRequest request)
+    : m_context(context), m_request(std::move(request)) {
+    refetch();
+    connect(&context, &ManagedObjectContext::objectsDidChange, this, &LiveFetch::follow);
+}
+
+ManagedObject& LiveFetch::object(int row) const {
+    return m_context.object(m_ids.at(static_cast<std::size_t>(row)));
+}
+
+int LiveFetch::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : static_cast<int>(m_ids.size());
+}
+
+void LiveFetch::follow(const ObjectChanges& changes) {
+    // Several records that moved at once leave no order to search for the place of one.
+    const auto touched = changes.inserted.size() + changes.updated.size() + changes.deleted.size();
+    if (changes.everything || touched > 1)
+        return refetch();
+    for (const ManagedObject* object : changes.inserted)
+        insert(*object);
+    for (const ManagedObject* object : changes.updated)
+        update(*object);
+    for (const ManagedObject* object : changes.deleted)
+        remove(*object);
+}
+
+void LiveFetch::refetch() {
+    beginResetModel();
+    try {
+        m_ids = m_context.fetchIDs(m_request);
+    } catch (const StoreError&) {
+        m_ids.clear();
+    }
+    endResetModel();
+}
+
+void LiveFetch::insert(const ManagedObject& object) {
+    if (!matches(object))
+        return;
+    const int at = place(object);
+    beginInsertRows({}, at, at);
+    m_ids.insert(m_ids.begin() + at, object.objectID());
+    endInsertRows();
+}
+
+void LiveFetch::remove(const ManagedObject& object) {
+    const int at = row(object);
+    if (at < 0)
+        return;
+    beginRemoveRows({}, at, at);
+    m_ids.erase(m_ids.begin() + at);
+    endRemoveRows();
+}
+
+void LiveFetch::update(const ManagedObject& object) {
+    const int from = row(object);
+    if (from < 0)
+        return insert(object);
+    if (!matches(object))
+        return remove(object);
+    m_ids.erase(m_ids.begin() + from);
+    const int to = place(object);
+    m_ids.insert(m_ids.begin() + from, object.objectID());
+    if (to != from) {
+        beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
+        m_ids.erase(m_ids.begin() + from);
+        m_ids.insert(m_ids.begin() + to, object.objectID());
+        endMoveRows();
+    }
+    Q_EMIT dataChanged(index(to), index(to));
+}
+
+int LiveFetch::row(const ManagedObject& object) const {
+    const auto found = std::ranges::find(m_ids, object.objectID());
+    return found == m_ids.end() ? -1 : static_cast<int>(found - m_ids.begin());
+}
+
+int LiveFetch::place(const ManagedObject& object) const {
+    const auto found =
+        std::ranges::upper_bound(m_ids, object.objectID(), [this](ObjectID a, ObjectID b) {
+            return m_request.precedes(m_context.entity(), a, m_context.object(a).values(), b,
+                                      m_context.object(b).values());
+        });
+    return static_cast<int>(found - m_ids.begin());
+}
+
+bool LiveFetch::matches(const ManagedObject& object) const {
+    return m_request.predicate.matches(m_context.entity(), object.values());
+}
+
+} // namespace kovamo

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ManagedObjectContext.h"
+
+#include <QAbstractListModel>
+
+namespace kovamo {
+
+/// The records that match a request, as a list model that follows its context. It holds only their
+/// order; a record is read when it is first looked at. A store that cannot be read yields an empty
+/// list.
+class LiveFetch : public QAbstractListModel {
+    Q_OBJECT
+
+  public:
+    /// Requires: `context` outlives the list.
+    LiveFetch(ManagedObjectContext& context, FetchRequest request);
+
+    /// The record at `row`. Requires: 0 ≤ `row` < rowCount().
+    [[nodiscard]] ManagedObject& object(int row) const;
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+
+  private:
+    void follow(const ObjectChanges& changes);
+    void refetch();
+    void insert(const ManagedObject& object);
+    void remove(const ManagedObject& object);
+    void update(const ManagedObject& object);
+    [[nodiscard]] int row(const ManagedObject& object) const;
+    [[nodiscard]] int place(const ManagedObject& object) const;
+    [[nodiscard]] bool matches(const ManagedObject& object) const;
+
+    ManagedObjectContext& m_context;
+    FetchRequest m_request;
+    std::vector<ObjectID> m_ids;
+};
+
+} // namespace kovamo

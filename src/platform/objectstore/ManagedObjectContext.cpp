@@ -1,0 +1,166 @@
+#include "ManagedObjectContext.h"
+
+#include "Store.h"
+#include "StoreError.h"
+#include "platform/foundation/FatalError.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kovamo {
+
+ManagedObjectContext::ManagedObjectContext(Store& store, const EntityDescription& entity)
+    : m_store(store), m_entity(entity) {}
+
+ManagedObjectContext::~ManagedObjectContext() = default;
+
+void ManagedObjectContext::requireEntity(const FetchRequest& request) const {
+    if (request.entityName != m_entity.name)
+        fatalError(QStringLiteral("There is no entity \"%1\"").arg(request.entityName));
+}
+
+std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request) {
+    requireEntity(request);
+    mergeChanges();
+    if (m_unsaved.isEmpty())
+        return m_store.select(request);
+    FetchRequest unlimited = request;
+    unlimited.fetchLimit.reset();
+    std::vector<ObjectID> ids = m_store.select(unlimited);
+    mergePending(request, ids);
+    if (request.fetchLimit)
+        ids.resize(std::min(ids.size(), static_cast<std::size_t>(*request.fetchLimit)));
+    return ids;
+}
+
+std::size_t ManagedObjectContext::count(const FetchRequest& request) {
+    requireEntity(request);
+    mergeChanges();
+    return m_unsaved.isEmpty() ? m_store.count(request) : fetchIDs(request).size();
+}
+
+void ManagedObjectContext::mergePending(const FetchRequest& request, std::vector<ObjectID>& ids) {
+    std::erase_if(ids, [this](ObjectID id) {
+        const auto found = m_objects.find(id);
+        return found != m_objects.end() &&
+               (found->second->m_isUpdated || found->second->m_isDeleted);
+    });
+    const auto precedes = [&](const ManagedObject* object, ObjectID id) {
+        return request.precedes(m_entity, object->objectID(), object->values(), id,
+                                this->object(id).values());
+    };
+    for (const auto* pending : {&m_unsaved.inserted, &m_unsaved.updated})
+        for (const ManagedObject* object : *pending)
+            if (request.predicate.matches(m_entity, object->values()))
+                ids.insert(std::upper_bound(ids.begin(), ids.end(), object, precedes),
+                           object->objectID());
+}
+
+ManagedObject& ManagedObjectContext::object(ObjectID id) {
+    std::unique_ptr<ManagedObject>& object = m_objects[id];
+    if (!object)
+        object = m_entity.makeObject(*this, id);
+    return *object;
+}
+
+ManagedObject& ManagedObjectContext::loadedObject(ObjectID id) {
+    ManagedObject& loaded = object(id);
+    if (loaded.m_values.empty() || loaded.m_isStale)
+        read(loaded);
+    return loaded;
+}
+
+void ManagedObjectContext::read(const ManagedObject& object) {
+    std::vector<Value> values = m_store.read(object.objectID());
+    if (values.empty() && object.m_values.empty())
+        throw StoreError(QStringLiteral("There is no such record"),
+                         {{QStringLiteral("pk"), QString::number(object.objectID())}});
+    object.m_isStale = false;
+    if (!values.empty())
+        object.m_values = std::move(values);
+}
+
+ManagedObject& ManagedObjectContext::insertObject() {
+    ObjectID id = m_store.unusedID();
+    while (m_objects.contains(id))
+        ++id;
+    ManagedObject& inserted = object(id);
+    inserted.m_values = m_entity.initialValues();
+    inserted.m_isInserted = true;
+    m_unsaved.inserted.push_back(&inserted);
+    m_unannounced.inserted.push_back(&inserted);
+    announceLater();
+    return inserted;
+}
+
+void ManagedObjectContext::didUpdate(ManagedObject& object) {
+    if (object.m_isInserted || object.m_isDeleted || object.m_isUpdated)
+        return;
+    object.m_isUpdated = true;
+    m_unsaved.updated.push_back(&object);
+    m_unannounced.updated.push_back(&object);
+    announceLater();
+}
+
+void ManagedObjectContext::deleteObject(ManagedObject& object) {
+    if (object.m_isDeleted)
+        return;
+    object.m_isDeleted = true;
+    std::erase(m_unsaved.inserted, &object);
+    std::erase(m_unsaved.updated, &object);
+    if (!object.m_isInserted)
+        m_unsaved.deleted.push_back(&object);
+    std::erase(m_unannounced.updated, &object);
+    if (std::erase(m_unannounced.inserted, &object) == 0)
+        m_unannounced.deleted.push_back(&object);
+    announceLater();
+}
+
+bool ManagedObjectContext::hasChanges() const {
+    return !m_unsaved.isEmpty();
+}
+
+void ManagedObjectContext::save() {
+    announce();
+    if (m_unsaved.isEmpty())
+        return;
+    m_store.write(m_unsaved);
+    for (ManagedObject* object : m_unsaved.inserted)
+        object->m_isInserted = false;
+    for (ManagedObject* object : m_unsaved.updated)
+        object->m_isUpdated = false;
+    for (ManagedObject* object : m_unsaved.deleted) {
+        auto node = m_objects.extract(object->objectID());
+        m_deletedObjects.push_back(std::move(node.mapped()));
+    }
+    m_unsaved = {};
+}
+
+void ManagedObjectContext::announceLater() {
+    if (std::exchange(m_willAnnounce, true))
+        return;
+    QMetaObject::invokeMethod(this, &ManagedObjectContext::announce, Qt::QueuedConnection);
+}
+
+void ManagedObjectContext::announce() {
+    m_willAnnounce = false;
+    if (m_unannounced.isEmpty())
+        return;
+    const ObjectChanges changes = std::exchange(m_unannounced, {});
+    Q_EMIT objectsDidChange(changes);
+}
+
+void ManagedObjectContext::setAutomaticallyMergesChangesFromParent(bool merges) {
+    m_mergesChanges = merges;
+}
+
+void ManagedObjectContext::mergeChanges() {
+    if (!m_mergesChanges || !m_store.changedElsewhere())
+        return;
+    for (const auto& [id, object] : m_objects)
+        object->m_isStale = !object->m_isInserted && !object->m_isUpdated && !object->m_isDeleted;
+    m_unannounced.everything = true;
+    announceLater();
+}
+
+} // namespace kovamo

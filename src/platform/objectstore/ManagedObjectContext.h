@@ -1,0 +1,105 @@
+#pragma once
+
+#include "FetchRequest.h"
+#include "ManagedObject.h"
+
+#include <QObject>
+#include <unordered_map>
+
+namespace kovamo {
+
+class Store;
+
+/// The records that came, changed or went since the last time observers were told.
+struct ObjectChanges {
+    std::vector<ManagedObject*> inserted;
+    std::vector<ManagedObject*> updated;
+    std::vector<ManagedObject*> deleted;
+    /// Another writer changed the store: anything may differ.
+    bool everything = false;
+
+    [[nodiscard]] bool isEmpty() const {
+        return inserted.empty() && updated.empty() && deleted.empty() && !everything;
+    }
+};
+
+/// The records of a store as one thread works on them: what it inserts, sets and deletes is seen
+/// by its own fetches at once and by the store when it is saved. Main thread only.
+class ManagedObjectContext : public QObject {
+    Q_OBJECT
+
+  public:
+    /// Requires: `store` and `entity` outlive the context.
+    ManagedObjectContext(Store& store, const EntityDescription& entity);
+    ~ManagedObjectContext() override;
+
+    [[nodiscard]] const EntityDescription& entity() const { return m_entity; }
+
+    /// A new record of the kind that `T` stands for, pending until the next save.
+    template<typename T>
+    T& insert() {
+        return static_cast<T&>(insertObject());
+    }
+
+    /// The records that match `request`, their values read. Throws StoreError when the store
+    /// cannot be read; an unknown entity or attribute is a fatal error that names it.
+    template<typename T>
+    [[nodiscard]] std::vector<T*> fetch(const FetchRequest& request) {
+        const std::vector<ObjectID> ids = fetchIDs(request);
+        std::vector<T*> objects;
+        objects.reserve(ids.size());
+        for (const ObjectID id : ids)
+            objects.push_back(static_cast<T*>(&loadedObject(id)));
+        return objects;
+    }
+
+    /// The identities of the records that match `request`, in order; fails as fetch() does.
+    [[nodiscard]] std::vector<ObjectID> fetchIDs(const FetchRequest& request);
+
+    /// How many records match `request`; fails as fetch() does.
+    [[nodiscard]] std::size_t count(const FetchRequest& request);
+
+    /// The object that stands for the record `id`, its values read when they are asked for.
+    [[nodiscard]] ManagedObject& object(ObjectID id);
+
+    /// Deletes a record, pending until the next save.
+    void deleteObject(ManagedObject& object);
+
+    /// Writes all pending changes durably, or none: throws StoreError, keeps them pending and
+    /// leaves the store as it was. Observers are told before the changes are written.
+    void save();
+
+    [[nodiscard]] bool hasChanges() const;
+
+    /// Whether what other writers save to the store shows here, at the next fetch or when the
+    /// store's files change.
+    void setAutomaticallyMergesChangesFromParent(bool merges);
+
+  Q_SIGNALS:
+    /// Records came, changed or went: at the start of a save, else in the event loop's next turn.
+    void objectsDidChange(const kovamo::ObjectChanges& changes);
+
+  private:
+    friend class ManagedObject;
+
+    ManagedObject& insertObject();
+    ManagedObject& loadedObject(ObjectID id);
+    void read(const ManagedObject& object);
+    void didUpdate(ManagedObject& object);
+    void announceLater();
+    void announce();
+    void mergeChanges();
+    void mergePending(const FetchRequest& request, std::vector<ObjectID>& ids);
+    void requireEntity(const FetchRequest& request) const;
+
+    Store& m_store;
+    const EntityDescription& m_entity;
+    std::unordered_map<ObjectID, std::unique_ptr<ManagedObject>> m_objects;
+    std::vector<std::unique_ptr<ManagedObject>> m_deletedObjects;
+    ObjectChanges m_unsaved;
+    ObjectChanges m_unannounced;
+    bool m_willAnnounce = false;
+    bool m_mergesChanges = false;
+};
+
+} // namespace kovamo

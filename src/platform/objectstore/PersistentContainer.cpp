@@ -1,0 +1,37 @@
+#include "PersistentContainer.h"
+
+#include "Store.h"
+#include "platform/foundation/FatalError.h"
+
+#include <QStandardPaths>
+
+namespace kovamo {
+
+PersistentContainer::PersistentContainer(QString name, const EntityDescription& entity)
+    : m_name(std::move(name)), m_entity(entity) {}
+
+PersistentContainer::~PersistentContainer() = default;
+
+QString PersistentContainer::storePath() const {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u'/' + m_name +
+           u'/' + m_name + u".sqlite";
+}
+
+void PersistentContainer::loadPersistentStores(
+    const std::function<void(const StoreError*)>& completion) {
+    try {
+        m_store = std::make_unique<Store>(storePath(), m_entity);
+    } catch (const StoreError& error) {
+        return completion(&error);
+    }
+    m_viewContext = std::make_unique<ManagedObjectContext>(*m_store, m_entity);
+    completion(nullptr);
+}
+
+ManagedObjectContext& PersistentContainer::viewContext() const {
+    if (!m_viewContext)
+        fatalError(QStringLiteral("The store \"%1\" is not loaded").arg(m_name));
+    return *m_viewContext;
+}
+
+} // namespace kovamo

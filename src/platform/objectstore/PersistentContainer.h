@@ -1,0 +1,40 @@
+#pragma once
+
+#include "EntityDescription.h"
+#include "ManagedObjectContext.h"
+#include "StoreError.h"
+
+#include <functional>
+#include <memory>
+
+namespace kovamo {
+
+/// A store with the context that the screens work on.
+class PersistentContainer {
+  public:
+    /// A container whose store is `$XDG_DATA_HOME/name/name.sqlite` (`~/.local/share` when unset).
+    /// Requires: `entity` outlives the container.
+    PersistentContainer(QString name, const EntityDescription& entity);
+    ~PersistentContainer();
+    Q_DISABLE_COPY_MOVE(PersistentContainer)
+
+    [[nodiscard]] const QString& name() const { return m_name; }
+
+    /// Where the store lies.
+    [[nodiscard]] QString storePath() const;
+
+    /// Opens the store, making it where there is none, and calls `completion` with nothing, or
+    /// with the error.
+    void loadPersistentStores(const std::function<void(const StoreError*)>& completion);
+
+    /// The main context. Requires that the store is loaded; anything else is a fatal error.
+    [[nodiscard]] ManagedObjectContext& viewContext() const;
+
+  private:
+    QString m_name;
+    const EntityDescription& m_entity;
+    std::unique_ptr<Store> m_store;
+    std::unique_ptr<ManagedObjectContext> m_viewContext;
+};
+
+} // namespace kovamo

@@ -1,0 +1,297 @@
+#include "Store.h"
+
+#include "ManagedObjectContext.h"
+#include "StoreError.h"
+
+#include <QFileInfo>
+#include <SQLiteCpp/Transaction.h>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kovamo {
+
+namespace {
+
+constexpr int schemaVersion = 1;
+constexpr int busyTimeoutMilliseconds = 5000;
+
+[[noreturn]] void fail(const QString& description, int code, const QString& path) {
+    throw StoreError(description, {{QStringLiteral("code"), QString::number(code)},
+                                   {QStringLiteral("path"), path}});
+}
+
+/// Runs `work` and throws what SQLite throws as a StoreError.
+template<typename Work>
+auto guarded(const QString& path, Work work) {
+    try {
+        return work();
+    } catch (const SQLite::Exception& error) {
+        fail(QString::fromUtf8(error.what()), error.getExtendedErrorCode(), path);
+    }
+}
+
+QString quoted(const QString& name) {
+    return u'"' + name + u'"';
+}
+
+std::string utf8(const QString& text) {
+    return text.toStdString();
+}
+
+/// Makes the folder and an empty file where there is none. The file is made before SQLite opens
+/// it because SQLite gives its side files the permissions of the main one.
+void makeFile(const QString& path) {
+    const QByteArray folder = QFileInfo(path).path().toLocal8Bit();
+    for (qsizetype slash = 1; slash > 0;) {
+        slash = folder.indexOf('/', slash + 1);
+        const QByteArray ancestor = slash < 0 ? folder : folder.first(slash);
+        if (::mkdir(ancestor.constData(), 0700) != 0 && errno != EEXIST)
+            fail(QString::fromLocal8Bit(std::strerror(errno)), errno, path);
+    }
+    const int file = ::open(path.toLocal8Bit().constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    if (file < 0)
+        fail(QString::fromLocal8Bit(std::strerror(errno)), errno, path);
+    ::close(file);
+}
+
+void bind(SQLite::Statement& statement, int index, const Value& value) {
+    std::visit(
+        [&]<typename T>(const T& v) {
+            if constexpr (std::is_same_v<T, std::monostate>)
+                statement.bind(index);
+            else if constexpr (std::is_same_v<T, bool>)
+                statement.bind(index, v ? 1 : 0);
+            else if constexpr (std::is_same_v<T, std::int32_t>)
+                statement.bind(index, v);
+            else if constexpr (std::is_same_v<T, QString>)
+                statement.bind(index, utf8(v));
+            else if constexpr (std::is_same_v<T, Instant>)
+                statement.bind(index, static_cast<std::int64_t>(v.time_since_epoch().count()));
+            else
+                statement.bind(index, utf8(v.toString(QUuid::WithoutBraces)));
+        },
+        value);
+}
+
+Value valueOf(const SQLite::Column& column, AttributeType type) {
+    if (column.isNull())
+        return {};
+    switch (type) {
+    case AttributeType::integer32:
+        return column.getInt();
+    case AttributeType::boolean:
+        return column.getInt() != 0;
+    case AttributeType::string:
+        return QString::fromStdString(column.getString());
+    case AttributeType::date:
+        return Instant(std::chrono::milliseconds(column.getInt64()));
+    case AttributeType::uuid: {
+        const auto id = QUuid::fromString(QString::fromStdString(column.getString()));
+        return id.isNull() ? Value() : Value(id);
+    }
+    }
+    Q_UNREACHABLE();
+}
+
+QString sortKeys(const std::vector<SortDescriptor>& descriptors) {
+    QStringList keys;
+    for (const SortDescriptor& descriptor : descriptors)
+        keys.append(quoted(descriptor.key) + QLatin1String(descriptor.ascending ? "" : " DESC"));
+    return keys.join(u',');
+}
+
+QString columnDefinition(const AttributeDescription& attribute) {
+    const auto definition = [&](const char* format) {
+        return QString::fromLatin1(format).arg(quoted(attribute.name));
+    };
+    switch (attribute.type) {
+    case AttributeType::integer32:
+        return definition("%1 INTEGER NOT NULL DEFAULT 0 "
+                          "CHECK (%1 BETWEEN -2147483648 AND 2147483647)");
+    case AttributeType::boolean:
+        return definition("%1 INTEGER NOT NULL DEFAULT 0 CHECK (%1 IN (0, 1))");
+    case AttributeType::date:
+        return definition("%1 INTEGER");
+    case AttributeType::string:
+    case AttributeType::uuid:
+        return definition("%1 TEXT");
+    }
+    Q_UNREACHABLE();
+}
+
+} // namespace
+
+Store::Store(const QString& path, const EntityDescription& entity)
+    : m_path(path), m_entity(entity), m_table(quoted(entity.name)) {
+    for (const AttributeDescription& attribute : entity.attributes)
+        m_columns.append(quoted(attribute.name));
+    makeFile(path);
+    guarded(path, [&] {
+        m_database.emplace(utf8(path), SQLite::OPEN_READWRITE, busyTimeoutMilliseconds);
+        sqlite3* handle = m_database->getHandle();
+        // A misspelt column must be an error, never a text constant.
+        sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+        // A store that is refused must not be written to when it is closed again.
+        sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        refuseNewer();
+        refuseDamaged();
+        createSchema();
+        m_database->exec("PRAGMA journal_mode = WAL");
+        m_database->exec("PRAGMA synchronous = FULL");
+        sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+        m_readRow.emplace(*m_database, utf8(u"SELECT " + m_columns.join(u',') + u" FROM " +
+                                            m_table + u" WHERE pk = ?"));
+        m_dataVersion.emplace(*m_database, "PRAGMA data_version");
+        (void)changedElsewhere();
+    });
+}
+
+void Store::refuseNewer() const {
+    const int version = m_database->execAndGet("PRAGMA user_version").getInt();
+    if (version > schemaVersion)
+        fail(QStringLiteral("The store was written by a newer version of the app"), version,
+             m_path);
+}
+
+void Store::refuseDamaged() const {
+    const std::string verdict = m_database->execAndGet("PRAGMA quick_check(1)").getString();
+    if (verdict != "ok")
+        fail(QString::fromStdString(verdict), SQLITE_CORRUPT, m_path);
+}
+
+void Store::createSchema() {
+    if (m_database->execAndGet("PRAGMA user_version").getInt() == schemaVersion)
+        return;
+    SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
+    if (m_database->execAndGet("SELECT count(*) FROM sqlite_schema").getInt() == 0) {
+        QStringList definitions{QStringLiteral("pk INTEGER PRIMARY KEY")};
+        for (const AttributeDescription& attribute : m_entity.attributes)
+            definitions.append(columnDefinition(attribute));
+        m_database->exec(
+            utf8(u"CREATE TABLE " + m_table + u" (" + definitions.join(u',') + u") STRICT"));
+    }
+    for (const std::vector<SortDescriptor>& index : m_entity.indexes) {
+        QString name = m_entity.name;
+        for (const SortDescriptor& descriptor : index)
+            name += u'_' + descriptor.key;
+        m_database->exec(utf8(u"CREATE INDEX IF NOT EXISTS " + quoted(name) + u" ON " + m_table +
+                              u" (" + sortKeys(index) + u')'));
+    }
+    // Fails, and with it the opening, where another program's table lacks a column.
+    const SQLite::Statement probe(*m_database,
+                                  utf8(u"SELECT pk," + m_columns.join(u',') + u" FROM " + m_table));
+    m_database->exec("PRAGMA user_version = " + std::to_string(schemaVersion));
+    transaction.commit();
+}
+
+SQLite::Statement Store::prepared(const QString& selection, const FetchRequest& request) const {
+    QString sql = u"SELECT " + selection + u" FROM " + m_table;
+    if (const QString condition = request.predicate.sql(m_entity); !condition.isEmpty())
+        sql += u" WHERE " + condition;
+    for (const SortDescriptor& descriptor : request.sortDescriptors)
+        (void)m_entity.attributeIndex(descriptor.key);
+    if (!request.sortDescriptors.empty())
+        sql += u" ORDER BY " + sortKeys(request.sortDescriptors) + u",pk";
+    if (request.fetchLimit)
+        sql += u" LIMIT " + QString::number(*request.fetchLimit);
+    SQLite::Statement statement(*m_database, utf8(sql));
+    int index = 0;
+    for (const Value& argument : request.predicate.arguments())
+        bind(statement, ++index, argument);
+    return statement;
+}
+
+std::vector<ObjectID> Store::select(const FetchRequest& request) const {
+    return guarded(m_path, [&] {
+        SQLite::Statement statement = prepared(QStringLiteral("pk"), request);
+        std::vector<ObjectID> ids;
+        while (statement.executeStep())
+            ids.push_back(statement.getColumn(0).getInt64());
+        // Sorting here costs less than making SQLite sort what it walks by another index.
+        if (request.sortDescriptors.empty())
+            std::ranges::sort(ids);
+        return ids;
+    });
+}
+
+std::size_t Store::count(const FetchRequest& request) const {
+    if (request.fetchLimit)
+        return select(request).size();
+    return guarded(m_path, [&] {
+        SQLite::Statement statement = prepared(QStringLiteral("count(*)"), request);
+        statement.executeStep();
+        return static_cast<std::size_t>(statement.getColumn(0).getInt64());
+    });
+}
+
+std::vector<Value> Store::read(ObjectID id) {
+    return guarded(m_path, [&] {
+        m_readRow->reset();
+        m_readRow->bind(1, id);
+        std::vector<Value> values;
+        if (m_readRow->executeStep()) {
+            values.reserve(m_entity.attributes.size());
+            int index = 0;
+            for (const AttributeDescription& attribute : m_entity.attributes)
+                values.push_back(valueOf(m_readRow->getColumn(index++), attribute.type));
+        }
+        m_readRow->reset();
+        return values;
+    });
+}
+
+ObjectID Store::unusedID() const {
+    return guarded(m_path, [&] {
+        return m_database->execAndGet(utf8(u"SELECT coalesce(max(pk), 0) + 1 FROM " + m_table))
+            .getInt64();
+    });
+}
+
+int Store::put(const QString& sql, const ManagedObject& object) {
+    SQLite::Statement statement(*m_database, utf8(sql));
+    int index = 0;
+    for (const Value& value : object.values())
+        bind(statement, ++index, value);
+    statement.bind(++index, object.objectID());
+    return statement.exec();
+}
+
+void Store::write(const ObjectChanges& changes) {
+    const QString insertion = u"INSERT INTO " + m_table + u" (" + m_columns.join(u',') +
+                              u",pk) VALUES (" + QStringLiteral("?,").repeated(m_columns.size()) +
+                              u"?)";
+    const QString update =
+        u"UPDATE " + m_table + u" SET " + m_columns.join(QStringLiteral("=?,")) + u"=? WHERE pk=?";
+    guarded(m_path, [&] {
+        SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
+        for (const ManagedObject* object : changes.inserted)
+            put(insertion, *object);
+        for (const ManagedObject* object : changes.updated)
+            if (put(update, *object) == 0)
+                put(insertion, *object); // another writer deleted it: an edit is never lost
+        SQLite::Statement deletion(*m_database, utf8(u"DELETE FROM " + m_table + u" WHERE pk=?"));
+        for (const ManagedObject* object : changes.deleted) {
+            deletion.bind(1, object->objectID());
+            deletion.exec();
+            deletion.reset();
+        }
+        transaction.commit();
+    });
+}
+
+bool Store::changedElsewhere() {
+    return guarded(m_path, [&] {
+        m_dataVersion->reset();
+        m_dataVersion->executeStep();
+        const int version = m_dataVersion->getColumn(0).getInt();
+        m_dataVersion->reset();
+        return std::exchange(m_lastDataVersion, version) != version;
+    });
+}
+
+} // namespace kovamo

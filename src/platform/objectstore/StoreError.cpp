@@ -1,0 +1,14 @@
+#include "StoreError.h"
+
+#include <QStringList>
+
+namespace kovamo {
+
+QString StoreError::userInfoDescription() const {
+    QStringList entries;
+    for (const auto& [key, value] : m_userInfo)
+        entries.append(QStringLiteral("\"%1\": \"%2\"").arg(key, value));
+    return QStringLiteral("[%1]").arg(entries.join(QStringLiteral(", ")));
+}
+
+} // namespace kovamo

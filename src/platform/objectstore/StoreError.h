@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QString>
+#include <exception>
+#include <map>
+
+namespace kovamo {
+
+/// What an operation on the store fails with.
+class StoreError : public std::exception {
+  public:
+    StoreError(QString description, std::map<QString, QString> userInfo)
+        : m_description(std::move(description)), m_userInfo(std::move(userInfo)) {}
+
+    /// What went wrong, in the store's words.
+    [[nodiscard]] const QString& description() const { return m_description; }
+
+    /// The details by name, as text: ["key": "value", …].
+    [[nodiscard]] QString userInfoDescription() const;
+
+    [[nodiscard]] const char* what() const noexcept override { return "store error"; }
+
+  private:
+    QString m_description;
+    std::map<QString, QString> m_userInfo;
+};
+
+} // namespace kovamo
