@@ -1,0 +1,27 @@
+#include "PersistenceController.h"
+
+#include "Transaction.h"
+#include "platform/foundation/FatalError.h"
+
+namespace kovamo {
+
+void unresolvedError(const StoreError& error) {
+    fatalError(QStringLiteral("Unresolved error %1, %2")
+                   .arg(error.description(), error.userInfoDescription()));
+}
+
+const PersistenceController& PersistenceController::shared() {
+    static const PersistenceController controller = [] {
+        const auto container =
+            std::make_shared<PersistentContainer>(QStringLiteral("Kovamo"), Transaction::entity());
+        container->loadPersistentStores([](const StoreError* error) {
+            if (error)
+                unresolvedError(*error);
+        });
+        container->viewContext().setAutomaticallyMergesChangesFromParent(true);
+        return PersistenceController{container};
+    }();
+    return controller;
+}
+
+} // namespace kovamo
