@@ -1,0 +1,54 @@
+#include "Recurrence.h"
+
+#include "platform/foundation/CheckedArithmetic.h"
+
+#include <algorithm>
+
+namespace kovamo {
+
+namespace {
+
+std::optional<TransactionPresentation> monthly(const Transaction& transaction,
+                                               std::span<const MonthSlot> slots) {
+    const Instant start = required(transaction.id(), transaction.startDate(), "startDate");
+    const Instant end = required(transaction.id(), transaction.endDate(), "endDate");
+    const auto count = std::ranges::count_if(slots, [&](const MonthSlot& slot) {
+        const bool startedBefore = start <= slot.slotStart;
+        const bool endsInside = end >= slot.slotStart && end <= slot.slotEnd;
+        const bool spans = startedBefore && end >= slot.slotEnd;
+        const bool startsInside = start >= slot.slotStart && start <= slot.slotEnd;
+        return (startedBefore && endsInside) || spans || startsInside;
+    });
+    if (count == 0)
+        return std::nullopt;
+    TransactionPresentation presentation(transaction);
+    presentation.amount = checkedMultiply(presentation.amount, static_cast<std::int32_t>(count));
+    return presentation;
+}
+
+std::optional<TransactionPresentation>
+yearly(const Transaction& transaction, std::span<const MonthSlot> slots, const Calendar& calendar) {
+    const Instant end = required(transaction.id(), transaction.endDate(), "endDate");
+    const bool falls = std::ranges::any_of(slots, [&](const MonthSlot& slot) {
+        if (end <= slot.slotStart)
+            return false;
+        const Instant start = required(transaction.id(), transaction.startDate(), "startDate");
+        return calendar.day(start).month == slot.startMonth;
+    });
+    return falls ? std::optional<TransactionPresentation>(transaction) : std::nullopt;
+}
+
+} // namespace
+
+std::optional<TransactionPresentation> expanded(const Transaction& transaction,
+                                                std::span<const MonthSlot> slots,
+                                                const Calendar& calendar) {
+    const std::optional<QString> type = transaction.recurringType();
+    if (type == QLatin1String("monthly"))
+        return monthly(transaction, slots);
+    if (type == QLatin1String("yearly"))
+        return yearly(transaction, slots, calendar);
+    return std::nullopt;
+}
+
+} // namespace kovamo

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/foundation/Clock.h"
+
+#include <vector>
+
+namespace kovamo {
+
+/// What the user looks at: 1 the current month, 2 three months, 3 twelve months from the current
+/// one on; any other value is the current month up to now.
+using TimeFrame = int;
+
+/// The days of a time frame: `start` is in it, `end` is not.
+struct Period {
+    Instant start;
+    Instant end;
+};
+
+/// A month as recurrences see it, both ends in it: from 23:00 on the last day of the month before
+/// to 23:00 on its own last day. `startMonth` is the month's number (from 1) at slotStart, so the
+/// one before.
+struct MonthSlot {
+    Instant slotStart;
+    Instant slotEnd;
+    int startMonth;
+};
+
+/// The bounds of `timeFrame` as of now, in the user's calendar and zone: from the first moment of
+/// the current month to one hour before the end of the frame's last month.
+[[nodiscard]] Period periodBounds(TimeFrame timeFrame);
+
+/// How many months `timeFrame` has: 12, 3 or 1.
+[[nodiscard]] int slotCount(TimeFrame timeFrame);
+
+/// The months of `timeFrame` as of now, the current one first.
+[[nodiscard]] std::vector<MonthSlot> monthSlots(TimeFrame timeFrame);
+
+} // namespace kovamo

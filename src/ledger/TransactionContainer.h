@@ -1,0 +1,42 @@
+#pragma once
+
+#include "TimeFrame.h"
+#include "model/TransactionPresentation.h"
+#include "platform/objectstore/ManagedObjectContext.h"
+
+#include <QObject>
+#include <functional>
+#include <vector>
+
+namespace kovamo {
+
+/// Hands `append` the transactions of `timeFrame`: first the one-off ones that start in its period,
+/// then what the recurring ones contribute to its months, each in the store's order. A fetch that
+/// fails contributes nothing.
+void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
+                        const std::function<void(TransactionPresentation)>& append);
+
+/// The transactions of a period as a list that can be observed.
+class TransactionContainer : public QObject {
+    Q_OBJECT
+
+  public:
+    /// The period's transactions, largest amount first, equal amounts as they were gathered.
+    [[nodiscard]] const std::vector<TransactionPresentation>& transactions() const {
+        return m_transactions;
+    }
+
+    /// Loads the list afresh; it is complete when this returns.
+    void fetchTransactions(TimeFrame timeFrame, ManagedObjectContext& context);
+
+  Q_SIGNALS:
+    /// The list is about to be assigned or appended to.
+    void objectWillChange();
+
+  private:
+    void setTransactions(std::vector<TransactionPresentation> transactions);
+
+    std::vector<TransactionPresentation> m_transactions;
+};
+
+} // namespace kovamo
