@@ -1,0 +1,157 @@
+#include "AddTransactionView.h"
+
+#include "model/PersistenceController.h"
+#include "platform/foundation/NotificationCenter.h"
+
+#include <algorithm>
+
+namespace kovamo {
+
+namespace {
+
+double milliseconds(Instant instant) {
+    return static_cast<double>(instant.time_since_epoch().count());
+}
+
+Instant instantOf(double milliseconds) {
+    return Instant(std::chrono::milliseconds(static_cast<std::int64_t>(milliseconds)));
+}
+
+QString onlyDigits(QString text) {
+    return text.removeIf([](QChar character) { return character < u'0' || character > u'9'; });
+}
+
+QString firstUpperCased(const QString& text) {
+    return text.left(1).toUpper() + text.mid(1);
+}
+
+std::int32_t parsedAmount(const QString& text) {
+    bool isNumber = false;
+    const std::int32_t amount = text.toInt(&isNumber);
+    if (!isNumber)
+        fatalError(QStringLiteral("The amount %1 is not a whole number of 32 bits").arg(text));
+    return amount;
+}
+
+} // namespace
+
+QString transactionRefresh() {
+    return QStringLiteral("TransactionRefresh");
+}
+
+AddTransactionView::AddTransactionView(ManagedObjectContext& viewContext, Transaction* existing,
+                                       QObject* parent)
+    : QObject(parent), m_viewContext(viewContext), m_startDate(Clock::now()),
+      m_endDate(m_startDate), m_existingTransaction(existing), m_selectedType(types().front()),
+      m_selectedPositive(positiveTypes().front()) {
+    if (!existing)
+        return;
+    m_emoji = required(existing->id(), existing->emoji(), "emoji");
+    m_title = required(existing->id(), existing->title(), "title");
+    m_amount = QString::number(existing->amount());
+    m_isRecurring = existing->isRecurring();
+    m_startDate = required(existing->id(), existing->startDate(), "startDate");
+    m_endDate = required(existing->id(), existing->endDate(), "endDate");
+    if (const auto type = existing->recurringType())
+        m_selectedType = firstUpperCased(*type);
+    m_selectedPositive = positiveTypes().at(existing->isPositive() ? 0 : 1);
+}
+
+QString AddTransactionView::navigationTitle() const {
+    return m_existingTransaction ? QStringLiteral("Edit Transaction")
+                                 : QStringLiteral("New Transaction");
+}
+
+QStringList AddTransactionView::positiveTypes() {
+    return {QStringLiteral("Earning"), QStringLiteral("Spending")};
+}
+
+QStringList AddTransactionView::types() {
+    return {QStringLiteral("Monthly"), QStringLiteral("Yearly")};
+}
+
+template<typename T>
+bool AddTransactionView::assign(T& field, const T& value, void (AddTransactionView::*changed)()) {
+    if (field == value)
+        return false;
+    const bool couldSave = canSave();
+    field = value;
+    Q_EMIT(this->*changed)();
+    if (canSave() != couldSave)
+        Q_EMIT canSaveChanged();
+    return true;
+}
+
+void AddTransactionView::setEmoji(const QString& emoji) {
+    assign(m_emoji, emoji, &AddTransactionView::emojiChanged);
+}
+
+void AddTransactionView::setTitle(const QString& title) {
+    assign(m_title, title, &AddTransactionView::titleChanged);
+}
+
+void AddTransactionView::setAmount(const QString& amount) {
+    const QString digits = onlyDigits(amount);
+    // The field shows what was typed until it is told otherwise.
+    if (!assign(m_amount, digits, &AddTransactionView::amountChanged) && digits != amount)
+        Q_EMIT amountChanged();
+}
+
+void AddTransactionView::setSelectedPositive(const QString& positive) {
+    assign(m_selectedPositive, positive, &AddTransactionView::selectedPositiveChanged);
+}
+
+void AddTransactionView::setIsRecurring(bool isRecurring) {
+    assign(m_isRecurring, isRecurring, &AddTransactionView::isRecurringChanged);
+}
+
+void AddTransactionView::setSelectedType(const QString& type) {
+    assign(m_selectedType, type, &AddTransactionView::selectedTypeChanged);
+}
+
+double AddTransactionView::startDate() const {
+    return milliseconds(m_startDate);
+}
+
+void AddTransactionView::setStartDate(double milliseconds) {
+    assign(m_startDate, instantOf(milliseconds), &AddTransactionView::startDateChanged);
+}
+
+double AddTransactionView::endDate() const {
+    return milliseconds(m_endDate);
+}
+
+void AddTransactionView::setEndDate(double milliseconds) {
+    assign(m_endDate, instantOf(milliseconds), &AddTransactionView::endDateChanged);
+}
+
+bool AddTransactionView::canSave() const {
+    return !m_emoji.isEmpty() && !m_title.isEmpty() && !m_amount.isEmpty();
+}
+
+void AddTransactionView::save() {
+    if (!canSave())
+        return;
+    Transaction& transaction =
+        m_existingTransaction ? *m_existingTransaction : m_viewContext.insert<Transaction>();
+    if (!m_existingTransaction)
+        transaction.setId(QUuid::createUuid());
+    transaction.setTimestamp(Clock::now());
+    transaction.setAmount(parsedAmount(m_amount));
+    transaction.setIsPositive(m_selectedPositive == positiveTypes().front());
+    transaction.setIsRecurring(m_isRecurring);
+    transaction.setRecurringType(m_selectedType.toLower());
+    transaction.setTitle(m_title);
+    transaction.setEmoji(m_emoji);
+    transaction.setStartDate(m_startDate);
+    transaction.setEndDate(m_endDate);
+    try {
+        m_viewContext.save();
+    } catch (const StoreError& error) {
+        unresolvedError(error);
+    }
+    NotificationCenter::defaultCenter().post(transactionRefresh(), QStringLiteral("refresh"));
+    Q_EMIT dismissed();
+}
+
+} // namespace kovamo

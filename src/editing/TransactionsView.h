@@ -1,0 +1,53 @@
+#pragma once
+
+#include "AddTransactionView.h"
+#include "platform/objectstore/LiveFetch.h"
+
+#include <QtQml/qqmlregistration.h>
+#include <memory>
+
+namespace kovamo {
+
+/// A whole amount as money in the user's locale, without a fraction.
+[[nodiscard]] QString formattedAmount(std::int32_t amount);
+
+/// An amount with its direction: "+ " or "- " and the money text.
+[[nodiscard]] QString signedAmount(bool isPositive, std::int32_t amount);
+
+/// The screen of all stored transactions, largest amount first: a list that follows the store.
+class TransactionsView : public LiveFetch {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(TransactionsState)
+    QML_UNCREATABLE("Made by the main screen")
+    /// The form of the transaction opened last.
+    Q_PROPERTY(kovamo::AddTransactionView* form READ form NOTIFY formChanged)
+
+  public:
+    enum Role { EmojiRole = Qt::UserRole, TitleRole, IsRecurringRole, IsPositiveRole, AmountRole };
+
+    /// Requires: `viewContext` outlives the screen.
+    explicit TransactionsView(ManagedObjectContext& viewContext);
+
+    [[nodiscard]] AddTransactionView* form() const { return m_form.get(); }
+
+    /// Makes the form for the transaction at `row`.
+    Q_INVOKABLE void edit(int row);
+
+    /// Deletes the transactions at `rows`, ascending, each saved at once and each row counted in
+    /// the list as the deletion before has left it. A failed save is passed over.
+    Q_INVOKABLE void remove(const QList<int>& rows);
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+  Q_SIGNALS:
+    void formChanged();
+
+  private:
+    [[nodiscard]] Transaction& transaction(int row) const;
+
+    ManagedObjectContext& m_viewContext;
+    std::unique_ptr<AddTransactionView> m_form;
+};
+
+} // namespace kovamo
