@@ -19,7 +19,9 @@ World::World(const char* local, const char* zone, const char* locale) {
     setTime(local);
 }
 
-World::~World() { Clock::setSource({}); }
+World::~World() {
+    Clock::setSource({});
+}
 
 void World::setTime(const char* local) {
     Clock::setSource([now = at(local)] { return now; });

@@ -19,6 +19,8 @@ Instant Clock::now() {
     return std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now());
 }
 
-void Clock::setSource(Source source) { currentSource() = std::move(source); }
+void Clock::setSource(Source source) {
+    currentSource() = std::move(source);
+}
 
 } // namespace kovamo

@@ -49,11 +49,17 @@ QString formatted(const icu::DateFormat& format, Instant instant) {
 
 } // namespace
 
-QString currencyText(std::int64_t amount) { return wholeNumberText(amount, UNUM_CURRENCY); }
+QString currencyText(std::int64_t amount) {
+    return wholeNumberText(amount, UNUM_CURRENCY);
+}
 
-QString numberText(std::int64_t number) { return wholeNumberText(number, UNUM_DECIMAL); }
+QString numberText(std::int64_t number) {
+    return wholeNumberText(number, UNUM_DECIMAL);
+}
 
-QString digitText(int digit) { return numberText(digit); }
+QString digitText(int digit) {
+    return numberText(digit);
+}
 
 QString dateText(Instant instant, const QString& pattern) {
     UErrorCode status = U_ZERO_ERROR;

@@ -19,8 +19,12 @@ icu::Locale localeOf(const char* category) {
 
 } // namespace
 
-icu::Locale moneyLocale() { return localeOf("LC_MONETARY"); }
+icu::Locale moneyLocale() {
+    return localeOf("LC_MONETARY");
+}
 
-icu::Locale dateLocale() { return localeOf("LC_TIME"); }
+icu::Locale dateLocale() {
+    return localeOf("LC_TIME");
+}
 
 } // namespace kovamo

@@ -39,7 +39,9 @@ void UserDefaults::set(const QString& key, std::int64_t value) {
     write(key, QVariant::fromValue<qlonglong>(value));
 }
 
-void UserDefaults::set(const QString& key, bool value) { write(key, value); }
+void UserDefaults::set(const QString& key, bool value) {
+    write(key, value);
+}
 
 void UserDefaults::write(const QString& key, const QVariant& value) {
     m_settings->setValue(key, value);
