@@ -23,6 +23,13 @@ QString signedAmount(bool isPositive, std::int32_t amount) {
     return QLatin1String(isPositive ? "+ " : "- ") + formattedAmount(amount);
 }
 
+QString transactionSentence(const QString& title, bool isPositive, std::int32_t amount,
+                            bool isRecurring) {
+    return QStringLiteral("%1, %2, %3%4")
+        .arg(title, QLatin1String(isPositive ? "earning" : "spending"), formattedAmount(amount),
+             QLatin1String(isRecurring ? ", recurring" : ""));
+}
+
 TransactionsView::TransactionsView(ManagedObjectContext& viewContext)
     : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext) {}
 
@@ -60,10 +67,11 @@ QVariant TransactionsView::data(const QModelIndex& index, int role) const {
         return required(record.id(), record.title(), "title");
     case IsRecurringRole:
         return record.isRecurring();
-    case IsPositiveRole:
-        return record.isPositive();
     case AmountRole:
         return signedAmount(record.isPositive(), record.amount());
+    case SentenceRole:
+        return transactionSentence(required(record.id(), record.title(), "title"),
+                                   record.isPositive(), record.amount(), record.isRecurring());
     default:
         return {};
     }
@@ -73,8 +81,8 @@ QHash<int, QByteArray> TransactionsView::roleNames() const {
     return {{EmojiRole, "emoji"},
             {TitleRole, "title"},
             {IsRecurringRole, "isRecurring"},
-            {IsPositiveRole, "isPositive"},
-            {AmountRole, "amount"}};
+            {AmountRole, "amount"},
+            {SentenceRole, "sentence"}};
 }
 
 } // namespace kovamo

@@ -14,6 +14,10 @@ namespace kovamo {
 /// An amount with its direction: "+ " or "- " and the money text.
 [[nodiscard]] QString signedAmount(bool isPositive, std::int32_t amount);
 
+/// A transaction as a screen reader says it: "Groceries, spending, $42, recurring".
+[[nodiscard]] QString transactionSentence(const QString& title, bool isPositive,
+                                          std::int32_t amount, bool isRecurring);
+
 /// The screen of all stored transactions, largest amount first: a list that follows the store.
 class TransactionsView : public LiveFetch {
     Q_OBJECT
@@ -23,7 +27,7 @@ class TransactionsView : public LiveFetch {
     Q_PROPERTY(kovamo::AddTransactionView* form READ form NOTIFY formChanged)
 
   public:
-    enum Role { EmojiRole = Qt::UserRole, TitleRole, IsRecurringRole, IsPositiveRole, AmountRole };
+    enum Role { EmojiRole = Qt::UserRole, TitleRole, IsRecurringRole, AmountRole, SentenceRole };
 
     /// Requires: `viewContext` outlives the screen.
     explicit TransactionsView(ManagedObjectContext& viewContext);

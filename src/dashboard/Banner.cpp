@@ -1,0 +1,83 @@
+#include "Banner.h"
+
+#include "platform/foundation/CheckedArithmetic.h"
+#include "platform/foundation/Formatters.h"
+#include "platform/foundation/Locale.h"
+#include "platform/views/Shape.h"
+#include "platform/views/ShapeViews.h"
+
+#include <cstdio>
+
+namespace kovamo {
+
+namespace {
+
+constexpr double cornerRadius = 20;
+
+bool currencyFollows(const QString& one) {
+    return one.startsWith(digitText(1));
+}
+
+QString withoutDigit(QString one) {
+    return one.remove(digitText(1));
+}
+
+} // namespace
+
+Banner::Banner(ManagedObjectContext& context, TimeFrame selectedTimeFrame) : viewContext(&context) {
+    gatherTransactions(selectedTimeFrame, context, [this](TransactionPresentation presentation) {
+        transactions.push_back(std::move(presentation));
+    });
+    std::int64_t sum = 0;
+    for (const TransactionPresentation& presentation : std::as_const(transactions)) {
+        const std::int64_t amount = presentation.amount;
+        sum = presentation.isPositive ? checkedAdd(sum, amount) : checkedSubtract(sum, amount);
+    }
+    judge(sum);
+}
+
+void Banner::judge(std::int64_t sum) {
+    if (sum > 0) {
+        kovamo = sum;
+        infoText = QStringLiteral("Your Kovamo is positive 👍");
+        kovamoText = QStringLiteral("+ ");
+        currentGradient = greenGardient;
+    } else if (sum < 0) {
+        kovamo = checkedSubtract(std::int64_t{0}, sum);
+        infoText = QStringLiteral("Your Kovamo is negative 💔");
+        kovamoText = QStringLiteral("- ");
+        currentGradient = redGradient;
+    } else {
+        kovamo = 0;
+        infoText = QStringLiteral("Your Kovamo is neutral 🧿");
+        kovamoText = QStringLiteral("   0");
+        currentGradient = blueGradient;
+    }
+}
+
+QString Banner::numberText() const {
+    return kovamo::numberText(kovamo);
+}
+
+QString Banner::leadingSymbol() const {
+    const QString one = currencyText(1);
+    return currencyFollows(one) ? QString() : withoutDigit(one);
+}
+
+QString Banner::trailingSymbol() const {
+    std::printf("%s\n", moneyLocale().getName());
+    std::fflush(stdout);
+    const QString one = currencyText(1);
+    return currencyFollows(one) ? withoutDigit(one) : QString();
+}
+
+QString Banner::sentence() const {
+    return QStringLiteral("%1. Balance %2%3")
+        .arg(infoText, QLatin1String(kovamoText == u"- " ? "minus " : ""), currencyText(kovamo));
+}
+
+AnyView Banner::card() const {
+    return FilledShape{RoundedRectangle{cornerRadius, true}, currentGradient};
+}
+
+} // namespace kovamo

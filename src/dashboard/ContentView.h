@@ -1,0 +1,112 @@
+#pragma once
+
+#include "Banner.h"
+#include "FilteredList.h"
+#include "editing/AddTransactionView.h"
+#include "editing/TransactionsView.h"
+#include "ledger/TransactionContainer.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+#include <memory>
+
+namespace kovamo {
+
+/// A choice of the time frame picker.
+struct TimeFrameChoice {
+    Q_GADGET
+    QML_VALUE_TYPE(timeFrameChoice)
+    Q_PROPERTY(QString label MEMBER label)
+    Q_PROPERTY(int value MEMBER value)
+
+  public:
+    /// Bold markup.
+    QString label;
+    TimeFrame value = 1;
+};
+
+/// The main screen: the selected time frame and what is shown for it. Whatever changes the records
+/// or the frame leads to one new layout in the event loop's next turn, which builds the banner,
+/// the chart and the list anew.
+class ContentView : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ContentState)
+    QML_UNCREATABLE("Made by the app")
+    Q_PROPERTY(int selectedTimeFrame READ selectedTimeFrame NOTIFY selectedTimeFrameChanged)
+    Q_PROPERTY(QList<kovamo::TimeFrameChoice> timeFrames READ timeFrames CONSTANT)
+    Q_PROPERTY(bool showAddTransaction READ showAddTransaction WRITE setShowAddTransaction NOTIFY
+                   showAddTransactionChanged)
+    Q_PROPERTY(bool showTransactions READ showTransactions WRITE setShowTransactions NOTIFY
+                   showTransactionsChanged)
+    Q_PROPERTY(bool hasTransactions READ hasTransactions NOTIFY laidOut)
+    Q_PROPERTY(bool hasPeriod READ hasPeriod NOTIFY laidOut)
+    Q_PROPERTY(kovamo::Banner banner READ banner NOTIFY laidOut)
+    Q_PROPERTY(kovamo::FilteredList* filteredList READ filteredList CONSTANT)
+    Q_PROPERTY(kovamo::AddTransactionView* addForm READ addForm NOTIFY showAddTransactionChanged)
+    Q_PROPERTY(kovamo::TransactionsView* allTransactions READ allTransactions NOTIFY
+                   showTransactionsChanged)
+
+  public:
+    /// Requires: `viewContext` outlives the screen. `requestReview` runs at each appearance, after
+    /// the load.
+    explicit ContentView(ManagedObjectContext& viewContext,
+                         std::function<void()> requestReview = {});
+
+    [[nodiscard]] TimeFrame selectedTimeFrame() const { return m_selectedTimeFrame; }
+    [[nodiscard]] static QList<TimeFrameChoice> timeFrames();
+
+    [[nodiscard]] bool showAddTransaction() const { return m_showAddTransaction; }
+    void setShowAddTransaction(bool show);
+
+    [[nodiscard]] bool showTransactions() const { return m_showTransactions; }
+    void setShowTransactions(bool show);
+
+    /// Whether anything is stored.
+    [[nodiscard]] bool hasTransactions() const { return m_hasTransactions; }
+
+    /// Whether banner, chart and list are shown: something is stored, and some of it in the frame.
+    [[nodiscard]] bool hasPeriod() const {
+        return m_hasTransactions && m_filteredList.rowCount() > 0;
+    }
+
+    [[nodiscard]] const Banner& banner() const { return m_banner; }
+    [[nodiscard]] FilteredList* filteredList() { return &m_filteredList; }
+
+    /// The form and the screen behind the sheets, from the moment they are shown until they are
+    /// shown again.
+    [[nodiscard]] AddTransactionView* addForm() const { return m_addForm.get(); }
+    [[nodiscard]] TransactionsView* allTransactions() const { return m_allTransactions.get(); }
+
+    /// The screen appears: loads the period, lays it out and runs the review policy.
+    Q_INVOKABLE void appear();
+
+    /// Selects a time frame and loads its period, also when it is the selected one already.
+    Q_INVOKABLE void select(int timeFrame);
+
+  Q_SIGNALS:
+    void selectedTimeFrameChanged();
+    void showAddTransactionChanged();
+    void showTransactionsChanged();
+    void laidOut();
+
+  private:
+    void load();
+    void layOutLater();
+    void layOut();
+    [[nodiscard]] bool isAnythingStored() const;
+
+    ManagedObjectContext& m_viewContext;
+    std::function<void()> m_requestReview;
+    TimeFrame m_selectedTimeFrame = 1;
+    bool m_showAddTransaction = false;
+    bool m_showTransactions = false;
+    bool m_hasTransactions = false;
+    bool m_needsLayout = false;
+    TransactionContainer m_transactionContainer;
+    Banner m_banner;
+    FilteredList m_filteredList;
+    std::unique_ptr<AddTransactionView> m_addForm;
+    std::unique_ptr<TransactionsView> m_allTransactions;
+};
+
+} // namespace kovamo

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ledger/TransactionContainer.h"
+
+#include <QAbstractListModel>
+#include <QtQml/qqmlregistration.h>
+#include <memory>
+
+namespace kovamo {
+
+/// The rows under the chart: one for each transaction that a container publishes, in its order.
+class FilteredList : public QAbstractListModel {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by the main screen")
+
+  public:
+    enum Role { EmojiRole = Qt::UserRole, TitleRole, AmountRole, HasDividerRole, SentenceRole };
+
+    /// Shows `container`, loaded, in place of the one before: rows that both have stay.
+    void setTransactionContainer(std::unique_ptr<TransactionContainer> container);
+
+    [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+  private:
+    [[nodiscard]] const std::vector<TransactionPresentation>& transactions() const;
+
+    std::unique_ptr<TransactionContainer> m_transactionContainer =
+        std::make_unique<TransactionContainer>();
+    // Rows of the container that are still to be announced: none but while it is exchanged.
+    int m_gapStart = 0;
+    int m_gapSize = 0;
+};
+
+} // namespace kovamo
