@@ -35,8 +35,16 @@ QColor resolved(SystemColor color, ColorScheme scheme) {
         return rgb(dark ? 0xFFFFFF : 0x000000);
     case SystemColor::secondaryLabel:
         return rgb(dark ? 0xEBEBF5 : 0x3C3C43, 0.60);
+    case SystemColor::tertiaryLabel:
+        return rgb(dark ? 0xEBEBF5 : 0x3C3C43, 0.30);
     case SystemColor::separator:
         return dark ? rgb(0x545458, 0.60) : rgb(0x3C3C43, 0.29);
+    case SystemColor::fill:
+        return rgb(0x767680, dark ? 0.24 : 0.12);
+    case SystemColor::thumb:
+        return rgb(dark ? 0x636366 : 0xFFFFFF);
+    case SystemColor::dimming:
+        return rgb(0x000000, dark ? 0.48 : 0.20);
     case SystemColor::background:
         return rgb(dark ? 0x000000 : 0xFFFFFF);
     case SystemColor::groupedBackground:

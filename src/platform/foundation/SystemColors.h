@@ -23,7 +23,11 @@ enum class SystemColor {
     accent,
     label,
     secondaryLabel,
+    tertiaryLabel,
     separator,
+    fill,
+    thumb,
+    dimming,
     background,
     groupedBackground,
     cell,
@@ -49,10 +53,15 @@ class SystemColors : public QObject {
     Q_PROPERTY(QColor accent READ accent NOTIFY changed)
     Q_PROPERTY(QColor label READ label NOTIFY changed)
     Q_PROPERTY(QColor secondaryLabel READ secondaryLabel NOTIFY changed)
+    Q_PROPERTY(QColor tertiaryLabel READ tertiaryLabel NOTIFY changed)
     Q_PROPERTY(QColor separator READ separator NOTIFY changed)
+    Q_PROPERTY(QColor fill READ fill NOTIFY changed)
+    Q_PROPERTY(QColor thumb READ thumb NOTIFY changed)
+    Q_PROPERTY(QColor dimming READ dimming NOTIFY changed)
     Q_PROPERTY(QColor background READ background NOTIFY changed)
     Q_PROPERTY(QColor groupedBackground READ groupedBackground NOTIFY changed)
     Q_PROPERTY(QColor cell READ cell NOTIFY changed)
+    Q_PROPERTY(QColor white READ white CONSTANT)
 
   public:
     /// The one palette of the process, light until told otherwise.
@@ -74,12 +83,17 @@ class SystemColors : public QObject {
     [[nodiscard]] QColor secondaryLabel() const {
         return resolved(SystemColor::secondaryLabel, m_scheme);
     }
+    [[nodiscard]] QColor tertiaryLabel() const { return resolved(SystemColor::tertiaryLabel, m_scheme); }
     [[nodiscard]] QColor separator() const { return resolved(SystemColor::separator, m_scheme); }
+    [[nodiscard]] QColor fill() const { return resolved(SystemColor::fill, m_scheme); }
+    [[nodiscard]] QColor thumb() const { return resolved(SystemColor::thumb, m_scheme); }
+    [[nodiscard]] QColor dimming() const { return resolved(SystemColor::dimming, m_scheme); }
     [[nodiscard]] QColor background() const { return resolved(SystemColor::background, m_scheme); }
     [[nodiscard]] QColor groupedBackground() const {
         return resolved(SystemColor::groupedBackground, m_scheme);
     }
     [[nodiscard]] QColor cell() const { return resolved(SystemColor::cell, m_scheme); }
+    [[nodiscard]] QColor white() const { return resolved(SystemColor::white, m_scheme); }
 
   Q_SIGNALS:
     void changed();

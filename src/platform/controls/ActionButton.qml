@@ -1,0 +1,50 @@
+import QtQuick
+import Kovamo.Foundation
+
+/*! The one thing to do on an empty screen: a symbol and a text on a soft capsule. */
+Pressable {
+    id: button
+
+    property string symbol
+
+    implicitHeight: Math.max(50, implicitContentHeight + Metrics.padding)
+    leftPadding: Metrics.padding + Metrics.step
+    rightPadding: Metrics.padding + Metrics.step
+
+    background: Rectangle {
+        color: SystemColors.fill
+        radius: height / 2
+    }
+    contentItem: Item {
+        implicitHeight: caption.implicitHeight
+        implicitWidth: image.width + Metrics.step * 2 + caption.implicitWidth
+
+        SystemImage {
+            id: image
+
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            color: SystemColors.accent
+            height: 18
+            name: button.symbol
+            width: name === "" ? 0 : 18
+        }
+        PlainText {
+            id: caption
+
+            Accessible.ignored: true
+            anchors.left: image.right
+            anchors.leftMargin: Metrics.step * 2
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            color: SystemColors.accent
+            font: TextStyles.headline
+            text: button.text
+        }
+    }
+
+    FocusRing {
+        control: button
+        radius: height / 2
+    }
+}

@@ -1,0 +1,23 @@
+import QtQuick
+import Kovamo.Foundation
+
+/*! A button of a bar: a system symbol in the accent colour, its text for those who listen. */
+Pressable {
+    id: button
+
+    /*! The name of the system symbol. */
+    required property string symbol
+
+    contentItem: Item {
+        SystemImage {
+            anchors.centerIn: parent
+            color: button.enabled ? SystemColors.accent : SystemColors.tertiaryLabel
+            name: button.symbol
+        }
+    }
+
+    FocusRing {
+        control: button
+        distance: -2
+    }
+}

@@ -1,0 +1,21 @@
+import QtQuick
+import Kovamo.Foundation
+
+/*! Empties the field it stands in, which keeps the focus. */
+Pressable {
+    focusPolicy: Qt.NoFocus
+    implicitHeight: 28
+    implicitWidth: 32
+    text: qsTr("Clear")
+
+    contentItem: Item {
+        SystemImage {
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            color: SystemColors.tertiaryLabel
+            height: 18
+            name: "xmark.circle.fill"
+            width: 18
+        }
+    }
+}

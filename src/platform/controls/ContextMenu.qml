@@ -1,0 +1,43 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Foundation
+
+/*! A small menu at the place it was asked for. */
+T.Menu {
+    id: menu
+
+    implicitHeight: contentItem.implicitHeight
+    implicitWidth: 220
+    margins: Metrics.step * 2
+    modal: true
+
+    background: Rectangle {
+        border.color: SystemColors.separator
+        border.width: Metrics.hairline
+        color: SystemColors.cell
+        radius: Metrics.cardRadius
+    }
+    contentItem: ListView {
+        implicitHeight: contentHeight
+        interactive: false
+        model: menu.contentModel
+    }
+    enter: Transition {
+        NumberAnimation {
+            duration: Motion.duration(120)
+            from: 0
+            property: "opacity"
+            to: 1
+        }
+    }
+    exit: Transition {
+        NumberAnimation {
+            duration: Motion.duration(120)
+            property: "opacity"
+            to: 0
+        }
+    }
+
+    T.Overlay.modal: Item {
+    }
+}

@@ -1,0 +1,113 @@
+import QtQuick
+import Kovamo.Foundation
+
+/*! A row that shows a day and unfolds a month to pick another from. The owner holds the moment: it
+    hears `picked` and sets `moment`. Moments are milliseconds since 1970 UTC. */
+Column {
+    id: field
+
+    property string label
+    property alias moment: month.moment
+    /*! The moment before whose day nothing can be picked; NaN for none. */
+    property alias minimumMoment: month.minimumMoment
+    property bool unfolded: false
+
+    /*! The user picked the day of `moment`. */
+    signal picked(double moment)
+
+    function toggle() {
+        month.reset();
+        field.unfolded = !field.unfolded;
+    }
+
+    width: parent ? parent.width : implicitWidth
+
+    onVisibleChanged: unfolded = false
+
+    MonthCalendar {
+        id: month
+
+        onPicked: moment => field.picked(moment)
+    }
+    FormRow {
+        id: row
+
+        Accessible.description: month.momentText
+        Accessible.name: field.label
+        Accessible.role: Accessible.Button
+        Keys.onEnterPressed: field.toggle()
+        Keys.onReturnPressed: field.toggle()
+        Keys.onSpacePressed: field.toggle()
+        focusPolicy: Qt.StrongFocus
+        isFirst: field.Positioner.isFirstItem
+        isLast: field.Positioner.isLastItem && !field.unfolded
+
+        Accessible.onPressAction: field.toggle()
+
+        contentItem: Item {
+            implicitHeight: pill.height
+
+            PlainText {
+                Accessible.ignored: true
+                anchors.left: parent.left
+                anchors.right: pill.left
+                anchors.verticalCenter: parent.verticalCenter
+                text: field.label
+            }
+            Rectangle {
+                id: pill
+
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                color: SystemColors.fill
+                height: day.implicitHeight + Metrics.step * 2
+                opacity: tap.pressed ? 0.5 : 1
+                radius: 6
+                width: day.implicitWidth + Metrics.step * 5
+
+                PlainText {
+                    id: day
+
+                    Accessible.ignored: true
+                    anchors.centerIn: parent
+                    color: field.unfolded ? SystemColors.accent : SystemColors.label
+                    text: month.momentText
+                }
+            }
+        }
+
+        TapHandler {
+            id: tap
+
+            gesturePolicy: TapHandler.ReleaseWithinBounds
+
+            onTapped: field.toggle()
+        }
+    }
+    Item {
+        clip: true
+        height: field.unfolded ? grid.implicitHeight : 0
+        visible: height > 0
+        width: parent.width
+
+        Behavior on height {
+            NumberAnimation {
+                duration: Motion.duration(300)
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        Divider {
+            anchors.left: parent.left
+            anchors.leftMargin: Metrics.padding
+            anchors.right: parent.right
+        }
+        MonthGrid {
+            id: grid
+
+            anchors.horizontalCenter: parent.horizontalCenter
+            calendar: month
+            width: Math.min(parent.width - 2 * Metrics.step, 420)
+        }
+    }
+}

@@ -1,0 +1,11 @@
+import QtQuick
+import Kovamo.Foundation
+
+/*! A hairline between two things: across a column, or down a row when `vertical`. */
+Rectangle {
+    property bool vertical: false
+
+    color: SystemColors.separator
+    implicitHeight: Metrics.hairline
+    implicitWidth: Metrics.hairline
+}

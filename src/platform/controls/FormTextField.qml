@@ -1,0 +1,100 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Foundation
+
+/*! A field for one line of plain text of any length. The owner holds the text: it hears `edited`
+    and sets `text`, to what was typed or to something else. */
+FormRow {
+    id: field
+
+    property string text
+    property string placeholder
+    /*! True asks for the keypad of digits. What may be typed is the owner's to say. */
+    property bool numeric: false
+    /*! What stands at the trailing end, before the button that clears. */
+    property alias trailing: slot.data
+
+    /*! The user changed the text to `text`. */
+    signal edited(string text)
+
+    // The caret keeps its distance from the end: what the owner takes out was typed before it.
+    function follow() {
+        if (input.text === field.text)
+            return;
+        const behind = input.length - input.cursorPosition;
+        input.text = field.text;
+        input.cursorPosition = Math.max(0, input.length - behind);
+    }
+
+    onTextChanged: follow()
+
+    Component.onCompleted: follow()
+
+    contentItem: FocusScope {
+        implicitHeight: input.implicitHeight
+
+        T.TextField {
+            id: input
+
+            Accessible.name: field.placeholder
+            anchors.left: parent.left
+            anchors.right: accessories.left
+            anchors.verticalCenter: parent.verticalCenter
+            clip: true
+            color: SystemColors.label
+            focus: true
+            focusPolicy: Qt.StrongFocus
+            font: TextStyles.body
+            horizontalAlignment: Text.AlignLeft
+            implicitHeight: contentHeight
+            implicitWidth: 100
+            inputMethodHints: field.numeric ? Qt.ImhDigitsOnly : Qt.ImhNone
+            maximumLength: 2147483647
+            selectByMouse: true
+            selectedTextColor: SystemColors.white
+            selectionColor: SystemColors.accent
+
+            cursorDelegate: Rectangle {
+                id: caret
+
+                color: SystemColors.accent
+                visible: input.cursorVisible
+                width: 2
+            }
+
+            onTextEdited: {
+                field.edited(input.text);
+                field.follow();
+            }
+
+            PlainText {
+                Accessible.ignored: true
+                anchors.fill: parent
+                color: SystemColors.tertiaryLabel
+                text: field.placeholder
+                verticalAlignment: Text.AlignVCenter
+                visible: input.length === 0 && input.preeditText === ""
+            }
+        }
+        Row {
+            id: accessories
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+
+            ClearButton {
+                visible: input.activeFocus && input.length > 0
+
+                onClicked: field.edited("")
+            }
+            Row {
+                id: slot
+
+            }
+        }
+    }
+
+    TapHandler {
+        onTapped: input.forceActiveFocus(Qt.MouseFocusReason)
+    }
+}

@@ -1,0 +1,47 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Foundation
+
+/*! A line of a menu: its text and a symbol, red where it destroys. */
+T.MenuItem {
+    id: item
+
+    property string symbol
+    property bool destructive: false
+    readonly property color tint: destructive ? SystemColors.red : SystemColors.label
+
+    implicitHeight: Math.max(Metrics.rowHeight, implicitContentHeight + Metrics.step * 4)
+    implicitWidth: 220
+    leftPadding: Metrics.padding
+    rightPadding: Metrics.padding
+
+    background: RowHighlight {
+        roundedBottom: true
+        roundedTop: true
+        visible: item.highlighted || item.pressed
+    }
+    contentItem: Item {
+        implicitHeight: caption.implicitHeight
+
+        PlainText {
+            id: caption
+
+            Accessible.ignored: true
+            anchors.left: parent.left
+            anchors.right: image.left
+            anchors.verticalCenter: parent.verticalCenter
+            color: item.tint
+            text: item.text
+        }
+        SystemImage {
+            id: image
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            color: item.tint
+            height: 20
+            name: item.symbol
+            width: 20
+        }
+    }
+}

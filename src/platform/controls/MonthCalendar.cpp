@@ -1,0 +1,157 @@
+#include "MonthCalendar.h"
+
+#include "platform/foundation/Formatters.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kovamo {
+
+namespace {
+
+constexpr int daysOfWeek = 7, cells = 6 * daysOfWeek;
+
+Instant instantOf(double moment) {
+    return Instant(std::chrono::milliseconds(static_cast<std::int64_t>(std::llround(moment))));
+}
+
+double momentOf(Instant instant) {
+    return static_cast<double>(instant.time_since_epoch().count());
+}
+
+} // namespace
+
+MonthCalendar::MonthCalendar(QObject* parent)
+    : QAbstractListModel(parent), m_moment(Clock::now()), m_minimum(std::nan("")),
+      m_cursor(Calendar().day(m_moment)) {}
+
+double MonthCalendar::moment() const { return momentOf(m_moment); }
+
+void MonthCalendar::setMoment(double moment) {
+    if (std::isnan(moment) || instantOf(moment) == m_moment)
+        return;
+    m_moment = instantOf(moment);
+    Q_EMIT momentChanged();
+    reset();
+}
+
+void MonthCalendar::setMinimumMoment(double moment) {
+    if (moment == m_minimum || (std::isnan(moment) && std::isnan(m_minimum)))
+        return;
+    m_minimum = moment;
+    Q_EMIT momentChanged();
+    refresh();
+}
+
+QString MonthCalendar::momentText() const {
+    return localizedDateText(m_moment, QStringLiteral("yMMMd"));
+}
+
+QString MonthCalendar::title() const {
+    return localizedDateText(Calendar().instant(m_cursor, 12), QStringLiteral("yMMMM"));
+}
+
+QStringList MonthCalendar::weekdays() const {
+    const Calendar calendar;
+    QStringList names;
+    for (int cell = 0; cell < daysOfWeek; ++cell)
+        names += localizedDateText(calendar.instant(dayAt(cell), 12), QStringLiteral("ccc"));
+    return names;
+}
+
+int MonthCalendar::weeks() const {
+    return (leadingCells() + Calendar().daysInMonth(m_cursor) + daysOfWeek - 1) / daysOfWeek;
+}
+
+int MonthCalendar::cursor() const { return leadingCells() + m_cursor.day - 1; }
+
+bool MonthCalendar::canGoBack() const {
+    return !isBeforeMinimum({m_cursor.year, m_cursor.month, 0});
+}
+
+void MonthCalendar::previousMonth() {
+    if (canGoBack())
+        show({m_cursor.year, m_cursor.month - 1, 1});
+}
+
+void MonthCalendar::nextMonth() { show({m_cursor.year, m_cursor.month + 1, 1}); }
+
+void MonthCalendar::moveCursor(int days) {
+    const CalendarDay target{m_cursor.year, m_cursor.month, m_cursor.day + days};
+    if (!isBeforeMinimum(target))
+        show(target);
+}
+
+void MonthCalendar::pick(int index) {
+    if (isDay(index) && !isBeforeMinimum(dayAt(index)))
+        Q_EMIT picked(momentOf(Calendar().moved(m_moment, dayAt(index))));
+}
+
+void MonthCalendar::reset() { show(Calendar().day(m_moment)); }
+
+int MonthCalendar::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : cells; }
+
+QVariant MonthCalendar::data(const QModelIndex& index, int role) const {
+    if (!isDay(index.row()))
+        return role == Text || role == FullText ? QVariant(QString()) : QVariant(false);
+    const CalendarDay day = dayAt(index.row());
+    const Calendar calendar;
+    switch (role) {
+    case Text:
+        return dateText(calendar.instant(day, 12), QStringLiteral("d"));
+    case FullText:
+        return localizedDateText(calendar.instant(day, 12), QStringLiteral("yMMMMEEEEd"));
+    case Selected:
+        return day == calendar.day(m_moment);
+    case Today:
+        return day == calendar.day(Clock::now());
+    case Enabled:
+        return !isBeforeMinimum(day);
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> MonthCalendar::roleNames() const {
+    return {{Text, "text"},
+            {FullText, "fullText"},
+            {Selected, "selected"},
+            {Today, "today"},
+            {Enabled, "available"}};
+}
+
+void MonthCalendar::show(const CalendarDay& day) {
+    const Calendar calendar;
+    m_cursor = calendar.day(calendar.instant(day, 12));
+    refresh();
+}
+
+void MonthCalendar::refresh() {
+    Q_EMIT monthChanged();
+    Q_EMIT dataChanged(index(0), index(cells - 1));
+}
+
+int MonthCalendar::leadingCells() const {
+    const Calendar calendar;
+    const int first = calendar.weekday({m_cursor.year, m_cursor.month, 1});
+    return (first - calendar.firstWeekday() + daysOfWeek) % daysOfWeek;
+}
+
+CalendarDay MonthCalendar::dayAt(int index) const {
+    return {m_cursor.year, m_cursor.month, index - leadingCells() + 1};
+}
+
+bool MonthCalendar::isDay(int index) const {
+    const int day = dayAt(index).day;
+    return day >= 1 && day <= Calendar().daysInMonth(m_cursor);
+}
+
+bool MonthCalendar::isBeforeMinimum(const CalendarDay& day) const {
+    if (std::isnan(m_minimum))
+        return false;
+    const Calendar calendar;
+    const Instant first = calendar.instant(calendar.day(instantOf(m_minimum)));
+    return calendar.instant(day, 12) < first;
+}
+
+} // namespace kovamo

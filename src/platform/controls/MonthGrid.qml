@@ -1,0 +1,112 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Foundation
+
+/*! A month's days under the names of the week's, and the way to the months around it. */
+Column {
+    id: grid
+
+    required property MonthCalendar calendar
+    readonly property real cellWidth: width / 7
+    readonly property real cellHeight: Math.max(Metrics.rowHeight, sizer.height + Metrics.step * 3)
+
+    bottomPadding: Metrics.step * 2
+
+    FontMetrics {
+        id: sizer
+
+        font: TextStyles.body
+    }
+    Item {
+        height: Math.max(Metrics.rowHeight, title.implicitHeight)
+        width: parent.width
+
+        PlainText {
+            id: title
+
+            anchors.left: parent.left
+            anchors.leftMargin: Metrics.step * 3
+            anchors.right: buttons.left
+            anchors.verticalCenter: parent.verticalCenter
+            font: TextStyles.headline
+            text: grid.calendar.title
+        }
+        Row {
+            id: buttons
+
+            anchors.right: parent.right
+
+            BarButton {
+                enabled: grid.calendar.canGoBack
+                symbol: mirrored ? "chevron.right" : "chevron.left"
+                text: qsTr("Previous month")
+
+                onClicked: grid.calendar.previousMonth()
+            }
+            BarButton {
+                symbol: mirrored ? "chevron.left" : "chevron.right"
+                text: qsTr("Next month")
+
+                onClicked: grid.calendar.nextMonth()
+            }
+        }
+    }
+    Row {
+        Repeater {
+            model: grid.calendar.weekdays
+
+            PlainText {
+                required property string modelData
+
+                color: SystemColors.secondaryLabel
+                font: TextStyles.footnote
+                fontSizeMode: Text.HorizontalFit
+                horizontalAlignment: Text.AlignHCenter
+                minimumPointSize: 6
+                text: modelData
+                width: grid.cellWidth
+            }
+        }
+    }
+    T.Control {
+        id: days
+
+        readonly property int back: mirrored ? 1 : -1
+
+        Accessible.name: grid.calendar.title
+        Accessible.role: Accessible.Table
+        Keys.onDownPressed: grid.calendar.moveCursor(7)
+        Keys.onEnterPressed: grid.calendar.pick(grid.calendar.cursor)
+        Keys.onLeftPressed: grid.calendar.moveCursor(back)
+        Keys.onReturnPressed: grid.calendar.pick(grid.calendar.cursor)
+        Keys.onRightPressed: grid.calendar.moveCursor(-back)
+        Keys.onSpacePressed: grid.calendar.pick(grid.calendar.cursor)
+        Keys.onUpPressed: grid.calendar.moveCursor(-7)
+        focusPolicy: Qt.StrongFocus
+        implicitHeight: grid.calendar.weeks * grid.cellHeight
+        width: parent.width
+
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
+            if (event.key === Qt.Key_PageUp)
+                grid.calendar.previousMonth();
+            else if (event.key === Qt.Key_PageDown)
+                grid.calendar.nextMonth();
+        }
+
+        contentItem: Grid {
+            columns: 7
+
+            Repeater {
+                model: grid.calendar
+
+                DayCell {
+                    calendar: grid.calendar
+                    height: grid.cellHeight
+                    ringed: days.visualFocus && index === grid.calendar.cursor
+                    width: grid.cellWidth
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,112 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Foundation
+
+/*! One choice out of a few, side by side. The owner holds the choice: it hears `picked` and sets
+    `selected`. */
+T.Control {
+    id: control
+
+    property list<string> labels
+    /*! The label that is chosen. */
+    property string selected
+    readonly property int index: labels.indexOf(selected)
+    readonly property real segmentWidth: availableWidth / Math.max(1, labels.length)
+
+    /*! The user chose `label`. */
+    signal picked(string label)
+
+    function step(by: int) {
+        const next = control.index + (control.mirrored ? -by : by);
+        if (next >= 0 && next < control.labels.length)
+            control.picked(control.labels[next]);
+    }
+
+    Accessible.role: Accessible.Grouping
+    Keys.onLeftPressed: control.step(-1)
+    Keys.onRightPressed: control.step(1)
+    focusPolicy: Qt.StrongFocus
+    implicitHeight: Math.max(32, sizer.height + Metrics.step * 3)
+    implicitWidth: Math.max(200, labels.length * 100)
+    padding: 2
+
+    background: Rectangle {
+        color: SystemColors.fill
+        radius: 9
+    }
+    contentItem: Item {
+        Rectangle {
+            id: thumb
+
+            readonly property int place: control.mirrored ? control.labels.length - 1 - control.index : control.index
+
+            border.color: SystemColors.separator
+            border.width: SystemColors.dark ? 0 : Metrics.hairline
+            color: SystemColors.thumb
+            height: parent.height
+            radius: 7
+            visible: control.index >= 0
+            width: control.segmentWidth
+            x: place * control.segmentWidth
+
+            Behavior on x {
+                enabled: thumb.visible && control.visible
+
+                NumberAnimation {
+                    duration: Motion.duration(250)
+                    easing.type: Easing.OutCubic
+                }
+            }
+        }
+        Row {
+            height: parent.height
+
+            Repeater {
+                model: control.labels
+
+                PlainText {
+                    id: segment
+
+                    required property string modelData
+                    readonly property bool chosen: modelData === control.selected
+
+                    Accessible.checkable: true
+                    Accessible.checked: chosen
+                    Accessible.focusable: true
+                    Accessible.name: modelData
+                    Accessible.role: Accessible.RadioButton
+                    font: chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
+                    fontSizeMode: Text.HorizontalFit
+                    height: parent.height
+                    horizontalAlignment: Text.AlignHCenter
+                    minimumPointSize: 6
+                    opacity: tap.pressed && !chosen ? 0.4 : 1
+                    text: modelData
+                    verticalAlignment: Text.AlignVCenter
+                    width: control.segmentWidth
+
+                    Accessible.onPressAction: control.picked(modelData)
+                    Accessible.onToggleAction: control.picked(modelData)
+
+                    TapHandler {
+                        id: tap
+
+                        gesturePolicy: TapHandler.ReleaseWithinBounds
+
+                        onTapped: control.picked(segment.modelData)
+                    }
+                }
+            }
+        }
+    }
+
+    FontMetrics {
+        id: sizer
+
+        font: TextStyles.subheadline
+    }
+    FocusRing {
+        control: control
+        radius: 10
+    }
+}

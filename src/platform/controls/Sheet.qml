@@ -1,0 +1,74 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Foundation
+
+/*! A modal sheet that its owner's flag opens and closes: it slides up from the bottom, dims what is
+    behind and leaves a strip of it in sight. What it shows is made when it opens and goes when it
+    has closed. It can be caught in every movement. */
+Item {
+    id: sheet
+
+    /*! The owner's flag. The sheet never sets it. */
+    property bool presented: false
+    /*! What the sheet shows. */
+    default property Component contentComponent
+    property color color: SystemColors.groupedBackground
+    /*! How far down from the card's top it can be dragged. */
+    property real barHeight: Math.max(56, Metrics.rowHeight)
+    /*! The shown content, null while the sheet is closed. */
+    readonly property alias contentItem: loader.item
+    /*! How far the sheet is open: 0 … 1. */
+    readonly property alias position: layer.position
+    readonly property bool opened: layer.position === 1
+
+    /*! The user wants the sheet to go: the owner resets its flag. */
+    signal dismissed
+    /*! The sheet is gone from the screen. */
+    signal closed
+
+    onPresentedChanged: presented && !popup.visible ? popup.open() : layer.settle()
+
+    Component.onCompleted: if (presented)
+        popup.open()
+
+    T.Popup {
+        id: popup
+
+        closePolicy: T.Popup.NoAutoClose
+        focus: true
+        height: parent ? parent.height : 0
+        modal: true
+        parent: T.Overlay.overlay
+        width: parent ? parent.width : 0
+
+        contentItem: SheetLayer {
+            id: layer
+
+            LayoutMirroring.childrenInherit: true
+            LayoutMirroring.enabled: sheet.LayoutMirroring.enabled
+            barHeight: sheet.barHeight
+            color: sheet.color
+            presented: sheet.presented
+
+            onClosed: {
+                popup.close();
+                sheet.closed();
+            }
+            onDismissed: sheet.dismissed()
+
+            Loader {
+                id: loader
+
+                active: popup.visible
+                anchors.fill: parent
+                focus: true
+                sourceComponent: sheet.contentComponent
+            }
+        }
+
+        T.Overlay.modal: Item {
+        }
+
+        onOpened: layer.settle()
+    }
+}

@@ -1,0 +1,110 @@
+import QtQuick
+import Kovamo.Foundation
+
+/*! What a sheet draws over the window: the dimmed screen and the card that slides over it. */
+FocusScope {
+    id: layer
+
+    required property bool presented
+    required property real barHeight
+    required property color color
+    default property alias content: slot.data
+    /*! How far the card is open: 0 … 1. */
+    property real position: 0
+    readonly property bool wide: width >= 700
+    readonly property bool floating: wide && height >= 600
+    readonly property real travel: floating ? (height + card.height) / 2 : card.height
+
+    signal dismissed
+    signal closed
+
+    /*! Moves the card to where the owner's flag wants it. */
+    function settle() {
+        movement.to = layer.presented ? 1 : 0;
+        movement.restart();
+    }
+
+    /*! Lets the card go at `velocity` points a second downwards. */
+    function release(velocity: real) {
+        if (layer.position - velocity * 0.2 / layer.travel < 0.6)
+            layer.dismissed();
+        layer.settle();
+    }
+
+    Keys.onBackPressed: layer.dismissed()
+    Keys.onEscapePressed: layer.dismissed()
+
+    NumberAnimation {
+        id: movement
+
+        duration: Motion.duration(420)
+        easing.type: Easing.OutQuint
+        property: "position"
+        target: layer
+
+        onFinished: if (to === 0)
+            layer.closed()
+    }
+    Rectangle {
+        Accessible.name: qsTr("Dismiss")
+        Accessible.role: Accessible.Button
+        anchors.fill: parent
+        color: SystemColors.dimming
+        opacity: layer.position
+
+        Accessible.onPressAction: layer.dismissed()
+
+        TapHandler {
+            onTapped: layer.dismissed()
+        }
+    }
+    Item {
+        id: card
+
+        height: layer.floating ? Math.min(layer.height - 80, 860) : layer.height - (layer.height < 500 ? 16 : 44)
+        width: layer.wide ? Math.min(layer.width - 80, Metrics.readableWidth) : layer.width
+        x: (layer.width - width) / 2
+        y: layer.height - (layer.floating ? (layer.height + height) / 2 : height) * layer.position
+
+        Rectangle {
+            anchors.bottomMargin: layer.floating ? 0 : -radius
+            anchors.fill: parent
+            border.color: SystemColors.separator
+            border.width: SystemColors.dark ? Metrics.hairline : 0
+            color: layer.color
+            radius: Metrics.cardRadius
+        }
+        TapHandler {
+            // A tap on the card is not a tap beside it.
+            gesturePolicy: TapHandler.WithinBounds
+        }
+        Item {
+            id: slot
+
+            anchors.bottomMargin: layer.floating ? Metrics.cardRadius : 0
+            anchors.fill: parent
+        }
+        Item {
+            height: layer.barHeight
+            width: parent.width
+
+            DragHandler {
+                id: drag
+
+                property real start: 1
+
+                target: null
+                xAxis.enabled: false
+
+                onActiveChanged: {
+                    movement.stop();
+                    if (active)
+                        start = layer.position;
+                    else
+                        layer.release(centroid.velocity.y);
+                }
+                onActiveTranslationChanged: layer.position = Math.min(1, start - activeTranslation.y / layer.travel)
+            }
+        }
+    }
+}

@@ -1,0 +1,161 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Foundation
+
+/*! A row of a list that is pulled aside to uncover "Delete"; pulled far enough, it deletes. The
+    Delete key and the row's menu do the same. */
+T.Control {
+    id: row
+
+    /*! What a screen reader says for the whole row. */
+    property string accessibleName
+    property color color: SystemColors.cell
+    default property alias content: slot.data
+    /*! How far the row is pulled aside, in points. */
+    property real offset: 0
+    readonly property bool opened: offset > 0 && !drag.active
+    readonly property real uncovered: Math.max(80, deleteText.implicitWidth + Metrics.padding * 2)
+    readonly property int direction: mirrored ? 1 : -1
+
+    /*! The row was tapped, or Enter pressed on it. */
+    signal clicked
+    /*! The user wants the row to go. */
+    signal deleteRequested
+
+    function close() {
+        row.slide(0);
+    }
+
+    function slide(to: real) {
+        movement.to = to;
+        movement.restart();
+    }
+
+    function release() {
+        row.slide(row.offset > row.width * 0.6 ? row.width : row.offset > row.uncovered / 2 ? row.uncovered : 0);
+    }
+
+    Accessible.name: accessibleName
+    Accessible.role: Accessible.ListItem
+    Keys.onDeletePressed: row.deleteRequested()
+    Keys.onEnterPressed: row.clicked()
+    Keys.onEscapePressed: event => {
+        event.accepted = row.offset > 0;
+        row.close();
+    }
+    Keys.onMenuPressed: menu.popup(row, row.width / 2, row.height / 2)
+    Keys.onReturnPressed: row.clicked()
+    Keys.onSpacePressed: row.clicked()
+    focusPolicy: Qt.StrongFocus
+    implicitHeight: Math.max(Metrics.rowHeight, slot.childrenRect.height)
+    width: ListView.view ? ListView.view.width : implicitWidth
+
+    Accessible.onPressAction: clicked()
+
+    NumberAnimation {
+        id: movement
+
+        duration: Motion.duration(250)
+        easing.type: Easing.OutCubic
+        property: "offset"
+        target: row
+
+        onFinished: if (to === row.width)
+            row.deleteRequested()
+    }
+    Item {
+        anchors.fill: parent
+        clip: row.offset > 0
+
+        Rectangle {
+            Accessible.name: deleteText.text
+            Accessible.role: Accessible.Button
+            color: row.offset > 0 ? SystemColors.red : "transparent"
+            height: parent.height
+            width: Math.max(row.uncovered, row.offset)
+            x: row.mirrored ? 0 : parent.width - width
+
+            Accessible.onPressAction: row.deleteRequested()
+
+            PlainText {
+                id: deleteText
+
+                Accessible.ignored: true
+                anchors.left: parent.left
+                anchors.leftMargin: Metrics.padding
+                anchors.verticalCenter: parent.verticalCenter
+                color: SystemColors.white
+                text: qsTr("Delete")
+                visible: row.offset > 0
+            }
+            TapHandler {
+                gesturePolicy: TapHandler.ReleaseWithinBounds
+
+                onTapped: row.deleteRequested()
+            }
+        }
+        Rectangle {
+            color: tap.pressed && row.offset === 0 ? Qt.tint(row.color, SystemColors.fill) : row.color
+            height: parent.height
+            width: parent.width
+            x: row.direction * row.offset
+
+            Item {
+                id: slot
+
+                anchors.fill: parent
+            }
+            TapHandler {
+                id: tap
+
+                gesturePolicy: TapHandler.ReleaseWithinBounds
+
+                onLongPressed: menu.popup()
+                onTapped: row.offset > 0 ? row.close() : row.clicked()
+            }
+            TapHandler {
+                acceptedButtons: Qt.RightButton
+
+                onTapped: menu.popup()
+            }
+            DragHandler {
+                id: drag
+
+                property real start: 0
+
+                target: null
+                yAxis.enabled: false
+
+                onActiveChanged: {
+                    movement.stop();
+                    if (active)
+                        start = row.offset;
+                    else
+                        row.release();
+                }
+                onActiveTranslationChanged: row.offset = Math.max(0, Math.min(row.width, start + row.direction * activeTranslation.x))
+            }
+        }
+    }
+    OutsideTap {
+        enabled: row.opened
+        inside: row
+
+        onTapped: row.close()
+    }
+    ContextMenu {
+        id: menu
+
+        MenuItem {
+            destructive: true
+            symbol: "trash"
+            text: deleteText.text
+
+            onTriggered: row.deleteRequested()
+        }
+    }
+    FocusRing {
+        control: row
+        distance: -2
+    }
+}

@@ -1,0 +1,31 @@
+pragma Singleton
+import QtQuick
+
+/*! The type scale, in the system's own font. A point of a layout is 1/96 inch, a point of type
+    1/72: hence the factor, with which the sizes follow the system's text size. */
+QtObject {
+    id: styles
+
+    readonly property font largeTitle: styles.style(34, Font.Normal)
+    readonly property font title: styles.style(22, Font.Normal)
+    readonly property font headline: styles.style(17, Font.DemiBold)
+    readonly property font body: styles.style(17, Font.Normal)
+    readonly property font subheadline: styles.style(15, Font.Normal)
+    readonly property font footnote: styles.style(13, Font.Normal)
+
+    /*! The system's font at `points` layout points. */
+    function style(points: real, weight: int): font {
+        return Qt.font({
+            "pointSize": points * 0.75,
+            "weight": weight
+        });
+    }
+
+    /*! `style` in bold. */
+    function bold(style: font): font {
+        return Qt.font({
+            "pointSize": style.pointSize,
+            "weight": Font.Bold
+        });
+    }
+}
