@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! The one thing to do on an empty screen: a symbol and a text on a soft capsule. */

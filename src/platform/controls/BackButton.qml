@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! Goes back one page: a chevron that points against the reading direction, and a word. */

@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A button of a bar: a system symbol in the accent colour, its text for those who listen. */

@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! Empties the field it stands in, which keeps the focus. */

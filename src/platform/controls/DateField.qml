@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A row that shows a day and unfolds a month to pick another from. The owner holds the moment: it

@@ -7,8 +7,10 @@ PlainText {
 
     /*! The text, in "**" on both sides where it is bold. */
     required property string markup
+    /*! The type, to which the markup adds the weight. */
+    property font textStyle: TextStyles.body
     readonly property bool emphasized: markup.length >= 4 && markup.startsWith("**") && markup.endsWith("**")
 
-    font.weight: label.emphasized ? Font.Bold : Font.Normal
+    font: label.emphasized ? TextStyles.bold(label.textStyle) : label.textStyle
     text: label.emphasized ? label.markup.slice(2, -2) : label.markup
 }

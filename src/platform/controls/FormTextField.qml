@@ -43,7 +43,6 @@ FormRow {
             clip: true
             color: SystemColors.label
             focus: true
-            focusPolicy: Qt.StrongFocus
             font: TextStyles.body
             horizontalAlignment: Text.AlignLeft
             implicitHeight: contentHeight

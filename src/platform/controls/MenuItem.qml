@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A line of a menu: its text and a symbol, red where it destroys. */

@@ -5,11 +5,16 @@ import QtQuick
 QtObject {
     readonly property int step: 4
     readonly property int padding: 16
-    readonly property int rowHeight: 44
+    /*! The least height of a row and of what is pressed: 44, more with large text. */
+    readonly property int rowHeight: Math.max(44, Math.ceil(body.height + 5 * step))
     readonly property int cardRadius: 10
 
     /*! The widest that a column of text and controls gets, however wide the window. */
     readonly property int readableWidth: 620
+
+    readonly property FontMetrics body: FontMetrics {
+        font: TextStyles.body
+    }
 
     /*! One device pixel. */
     readonly property real hairline: 1 / Screen.devicePixelRatio

@@ -1,5 +1,7 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A month's days under the names of the week's, and the way to the months around it. */

@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 
 /*! One place of a rolling number: a digit, or any other character, which just shows. */

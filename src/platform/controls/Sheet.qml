@@ -20,6 +20,7 @@ Item {
     /*! How far the sheet is open: 0 … 1. */
     readonly property alias position: layer.position
     readonly property bool opened: layer.position === 1
+    readonly property Item overlay: T.Overlay.overlay
 
     /*! The user wants the sheet to go: the owner resets its flag. */
     signal dismissed
@@ -38,7 +39,7 @@ Item {
         focus: true
         height: parent ? parent.height : 0
         modal: true
-        parent: T.Overlay.overlay
+        parent: sheet.overlay
         width: parent ? parent.width : 0
 
         contentItem: SheetLayer {

@@ -47,7 +47,7 @@ T.Control {
     Keys.onReturnPressed: row.clicked()
     Keys.onSpacePressed: row.clicked()
     focusPolicy: Qt.StrongFocus
-    implicitHeight: Math.max(Metrics.rowHeight, slot.childrenRect.height)
+    implicitHeight: Metrics.rowHeight
     width: ListView.view ? ListView.view.width : implicitWidth
 
     Accessible.onPressAction: clicked()

@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QQuickPaintedItem>
+#include <QtQml/qqmlregistration.h>
 
 namespace kovamo {
 

@@ -99,6 +99,9 @@ class SystemColors : public QObject {
     void changed();
 
   private:
+    // Where there is a public constructor, the QML engine makes an object of its own with it.
+    SystemColors() = default;
+
     ColorScheme m_scheme = ColorScheme::light;
 };
 
