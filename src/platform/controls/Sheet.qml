@@ -27,7 +27,8 @@ Item {
     /*! The sheet is gone from the screen. */
     signal closed
 
-    onPresentedChanged: presented && !popup.visible ? popup.open() : layer.settle()
+    onPresentedChanged: if (presented)
+        popup.open()
 
     Component.onCompleted: if (presented)
         popup.open()
@@ -69,7 +70,5 @@ Item {
 
         T.Overlay.modal: Item {
         }
-
-        onOpened: layer.settle()
     }
 }

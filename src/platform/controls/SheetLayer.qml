@@ -31,6 +31,8 @@ FocusScope {
         layer.settle();
     }
 
+    onPresentedChanged: settle()
+
     Keys.onBackPressed: layer.dismissed()
     Keys.onEscapePressed: layer.dismissed()
 
