@@ -8,7 +8,8 @@ Pressable {
 
     property string symbol
 
-    implicitHeight: Math.max(50, implicitContentHeight + Metrics.padding)
+    implicitHeight: Math.max(50, caption.implicitHeight + Metrics.padding * 2)
+    implicitWidth: leftPadding + image.width + Metrics.step * 2 + caption.implicitWidth + rightPadding
     leftPadding: Metrics.padding + Metrics.step
     rightPadding: Metrics.padding + Metrics.step
 
@@ -16,32 +17,29 @@ Pressable {
         color: SystemColors.fill
         radius: height / 2
     }
-    contentItem: Item {
-        implicitHeight: caption.implicitHeight
-        implicitWidth: image.width + Metrics.step * 2 + caption.implicitWidth
+    SystemImage {
+        id: image
 
-        SystemImage {
-            id: image
+        anchors.left: parent.left
+        anchors.leftMargin: button.leftPadding
+        anchors.verticalCenter: parent.verticalCenter
+        color: SystemColors.accent
+        height: 18
+        name: button.symbol
+        width: name === "" ? 0 : 18
+    }
+    PlainText {
+        id: caption
 
-            anchors.left: parent.left
-            anchors.verticalCenter: parent.verticalCenter
-            color: SystemColors.accent
-            height: 18
-            name: button.symbol
-            width: name === "" ? 0 : 18
-        }
-        PlainText {
-            id: caption
-
-            Accessible.ignored: true
-            anchors.left: image.right
-            anchors.leftMargin: Metrics.step * 2
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            color: SystemColors.accent
-            font: TextStyles.headline
-            text: button.text
-        }
+        Accessible.ignored: true
+        anchors.left: image.right
+        anchors.leftMargin: Metrics.step * 2
+        anchors.right: parent.right
+        anchors.rightMargin: button.rightPadding
+        anchors.verticalCenter: parent.verticalCenter
+        color: SystemColors.accent
+        font: TextStyles.headline
+        text: button.text
     }
 
     FocusRing {

@@ -9,30 +9,27 @@ Pressable {
     /*! The room that the word may take; where it is too small, the chevron stands alone. */
     property real room: Infinity
 
+    implicitWidth: label.visible ? chevron.width + label.implicitWidth + Metrics.step * 3 : Metrics.rowHeight
     text: qsTr("Back")
 
-    contentItem: Item {
-        implicitWidth: label.visible ? label.x + label.implicitWidth + Metrics.step * 2 : Metrics.rowHeight
+    SystemImage {
+        id: chevron
 
-        SystemImage {
-            id: chevron
+        anchors.left: parent.left
+        anchors.leftMargin: Metrics.step
+        anchors.verticalCenter: parent.verticalCenter
+        color: SystemColors.accent
+        name: button.mirrored ? "chevron.right" : "chevron.left"
+    }
+    PlainText {
+        id: label
 
-            anchors.left: parent.left
-            anchors.leftMargin: Metrics.step
-            anchors.verticalCenter: parent.verticalCenter
-            color: SystemColors.accent
-            name: button.mirrored ? "chevron.right" : "chevron.left"
-        }
-        PlainText {
-            id: label
-
-            Accessible.ignored: true
-            anchors.left: chevron.right
-            anchors.verticalCenter: parent.verticalCenter
-            color: SystemColors.accent
-            text: button.text
-            visible: chevron.width + Metrics.step * 3 + implicitWidth <= button.room
-        }
+        Accessible.ignored: true
+        anchors.left: chevron.right
+        anchors.verticalCenter: parent.verticalCenter
+        color: SystemColors.accent
+        text: button.text
+        visible: chevron.width + Metrics.step * 3 + implicitWidth <= button.room
     }
 
     FocusRing {

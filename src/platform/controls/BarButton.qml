@@ -9,12 +9,10 @@ Pressable {
     /*! The name of the system symbol. */
     required property string symbol
 
-    contentItem: Item {
-        SystemImage {
-            anchors.centerIn: parent
-            color: button.enabled ? SystemColors.accent : SystemColors.tertiaryLabel
-            name: button.symbol
-        }
+    SystemImage {
+        anchors.centerIn: parent
+        color: button.enabled ? SystemColors.accent : SystemColors.tertiaryLabel
+        name: button.symbol
     }
 
     FocusRing {

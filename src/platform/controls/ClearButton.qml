@@ -9,14 +9,12 @@ Pressable {
     implicitWidth: 32
     text: qsTr("Clear")
 
-    contentItem: Item {
-        SystemImage {
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            color: SystemColors.tertiaryLabel
-            height: 18
-            name: "xmark.circle.fill"
-            width: 18
-        }
+    SystemImage {
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        color: SystemColors.tertiaryLabel
+        height: 18
+        name: "xmark.circle.fill"
+        width: 18
     }
 }

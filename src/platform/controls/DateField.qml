@@ -39,41 +39,38 @@ Column {
         Keys.onEnterPressed: field.toggle()
         Keys.onReturnPressed: field.toggle()
         Keys.onSpacePressed: field.toggle()
+        contentHeight: pill.height
         focusPolicy: Qt.StrongFocus
         isFirst: field.Positioner.isFirstItem
         isLast: field.Positioner.isLastItem && !field.unfolded
 
         Accessible.onPressAction: field.toggle()
 
-        contentItem: Item {
-            implicitHeight: pill.height
+        PlainText {
+            Accessible.ignored: true
+            anchors.left: parent.left
+            anchors.right: pill.left
+            anchors.verticalCenter: parent.verticalCenter
+            text: field.label
+        }
+        Rectangle {
+            id: pill
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            color: SystemColors.fill
+            height: day.implicitHeight + Metrics.step * 2
+            opacity: tap.pressed ? 0.5 : 1
+            radius: 6
+            width: day.implicitWidth + Metrics.step * 5
 
             PlainText {
+                id: day
+
                 Accessible.ignored: true
-                anchors.left: parent.left
-                anchors.right: pill.left
-                anchors.verticalCenter: parent.verticalCenter
-                text: field.label
-            }
-            Rectangle {
-                id: pill
-
-                anchors.right: parent.right
-                anchors.verticalCenter: parent.verticalCenter
-                color: SystemColors.fill
-                height: day.implicitHeight + Metrics.step * 2
-                opacity: tap.pressed ? 0.5 : 1
-                radius: 6
-                width: day.implicitWidth + Metrics.step * 5
-
-                PlainText {
-                    id: day
-
-                    Accessible.ignored: true
-                    anchors.centerIn: parent
-                    color: field.unfolded ? SystemColors.accent : SystemColors.label
-                    text: month.momentText
-                }
+                anchors.centerIn: parent
+                color: field.unfolded ? SystemColors.accent : SystemColors.label
+                text: month.momentText
             }
         }
 

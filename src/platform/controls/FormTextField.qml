@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Kovamo.Foundation
@@ -26,70 +27,85 @@ FormRow {
         input.cursorPosition = Math.max(0, input.length - behind);
     }
 
+    contentHeight: input.implicitHeight
+
+    onActiveFocusChanged: if (activeFocus)
+        input.forceActiveFocus(focusReason)
     onTextChanged: follow()
 
     Component.onCompleted: follow()
 
-    contentItem: FocusScope {
-        implicitHeight: input.implicitHeight
+    T.TextField {
+        id: input
 
-        T.TextField {
-            id: input
+        Accessible.name: field.placeholder
+        anchors.left: parent.left
+        anchors.right: accessories.left
+        anchors.verticalCenter: parent.verticalCenter
+        clip: true
+        color: SystemColors.label
+        font: TextStyles.body
+        horizontalAlignment: Text.AlignLeft
+        implicitHeight: contentHeight
+        implicitWidth: 100
+        inputMethodHints: field.numeric ? Qt.ImhDigitsOnly : Qt.ImhNone
+        maximumLength: 2147483647
+        selectByMouse: true
+        selectedTextColor: SystemColors.white
+        selectionColor: SystemColors.accent
 
-            Accessible.name: field.placeholder
-            anchors.left: parent.left
-            anchors.right: accessories.left
-            anchors.verticalCenter: parent.verticalCenter
-            clip: true
-            color: SystemColors.label
-            focus: true
-            font: TextStyles.body
-            horizontalAlignment: Text.AlignLeft
-            implicitHeight: contentHeight
-            implicitWidth: 100
-            inputMethodHints: field.numeric ? Qt.ImhDigitsOnly : Qt.ImhNone
-            maximumLength: 2147483647
-            selectByMouse: true
-            selectedTextColor: SystemColors.white
-            selectionColor: SystemColors.accent
+        cursorDelegate: Rectangle {
+            color: SystemColors.accent
+            visible: input.cursorVisible
+            width: 2
 
-            cursorDelegate: Rectangle {
-                id: caret
+            SequentialAnimation on opacity {
+                loops: Animation.Infinite
+                running: input.cursorVisible && !Motion.reduced
 
-                color: SystemColors.accent
-                visible: input.cursorVisible
-                width: 2
-            }
-
-            onTextEdited: {
-                field.edited(input.text);
-                field.follow();
-            }
-
-            PlainText {
-                Accessible.ignored: true
-                anchors.fill: parent
-                color: SystemColors.tertiaryLabel
-                text: field.placeholder
-                verticalAlignment: Text.AlignVCenter
-                visible: input.length === 0 && input.preeditText === ""
+                PauseAnimation {
+                    duration: Application.styleHints.cursorFlashTime / 2
+                }
+                PropertyAction {
+                    value: 0
+                }
+                PauseAnimation {
+                    duration: Application.styleHints.cursorFlashTime / 2
+                }
+                PropertyAction {
+                    value: 1
+                }
             }
         }
+
+        onTextEdited: {
+            field.edited(input.text);
+            field.follow();
+        }
+
+        PlainText {
+            Accessible.ignored: true
+            anchors.fill: parent
+            color: SystemColors.tertiaryLabel
+            text: field.placeholder
+            verticalAlignment: Text.AlignVCenter
+            visible: input.length === 0 && input.preeditText === ""
+        }
+    }
+    Row {
+        id: accessories
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+
+        ClearButton {
+            visible: input.activeFocus && input.length > 0
+
+            onClicked: field.edited("")
+        }
         Row {
-            id: accessories
+            id: slot
 
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-
-            ClearButton {
-                visible: input.activeFocus && input.length > 0
-
-                onClicked: field.edited("")
-            }
-            Row {
-                id: slot
-
-            }
         }
     }
 

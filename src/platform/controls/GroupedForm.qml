@@ -9,7 +9,7 @@ FocusScope {
     property string navigationTitle
     default property alias sections: column.data
     readonly property Item focusedItem: Window.activeFocusItem
-    readonly property real keyboardTop: Qt.inputMethod.visible && Window.window ? Qt.inputMethod.keyboardRectangle.y : Infinity
+    readonly property real keyboardTop: InputMethod.visible && Window.window ? InputMethod.keyboardRectangle.y : Infinity
 
     /*! Scrolls as little as needed to show the focused item. */
     function showFocused() {
@@ -24,10 +24,18 @@ FocusScope {
         flick.returnToBounds();
     }
 
-    onFocusedItemChanged: Qt.callLater(showFocused)
-    onHeightChanged: Qt.callLater(showFocused)
-    onKeyboardTopChanged: Qt.callLater(showFocused)
+    onFocusedItemChanged: settling.restart()
+    onHeightChanged: settling.restart()
+    onKeyboardTopChanged: settling.restart()
 
+    // Rows find their places first.
+    Timer {
+        id: settling
+
+        interval: 0
+
+        onTriggered: form.showFocused()
+    }
     Rectangle {
         anchors.fill: parent
         color: SystemColors.groupedBackground

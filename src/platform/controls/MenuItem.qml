@@ -11,7 +11,7 @@ T.MenuItem {
     property bool destructive: false
     readonly property color tint: destructive ? SystemColors.red : SystemColors.label
 
-    implicitHeight: Math.max(Metrics.rowHeight, implicitContentHeight + Metrics.step * 4)
+    implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight + Metrics.step * 4)
     implicitWidth: 220
     leftPadding: Metrics.padding
     rightPadding: Metrics.padding
@@ -21,28 +21,26 @@ T.MenuItem {
         roundedTop: true
         visible: item.highlighted || item.pressed
     }
-    contentItem: Item {
-        implicitHeight: caption.implicitHeight
+    PlainText {
+        id: caption
 
-        PlainText {
-            id: caption
+        Accessible.ignored: true
+        anchors.left: parent.left
+        anchors.leftMargin: item.leftPadding
+        anchors.right: image.left
+        anchors.verticalCenter: parent.verticalCenter
+        color: item.tint
+        text: item.text
+    }
+    SystemImage {
+        id: image
 
-            Accessible.ignored: true
-            anchors.left: parent.left
-            anchors.right: image.left
-            anchors.verticalCenter: parent.verticalCenter
-            color: item.tint
-            text: item.text
-        }
-        SystemImage {
-            id: image
-
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            color: item.tint
-            height: 20
-            name: item.symbol
-            width: 20
-        }
+        anchors.right: parent.right
+        anchors.rightMargin: item.rightPadding
+        anchors.verticalCenter: parent.verticalCenter
+        color: item.tint
+        height: 20
+        name: item.symbol
+        width: 20
     }
 }

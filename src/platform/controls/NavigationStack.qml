@@ -27,7 +27,7 @@ FocusScope {
         return stack.canGoBack && view.pop() !== null;
     }
 
-    function titleOf(page: Item): string {
+    function titleOf(page: var): string {
         return page ? page["navigationTitle"] ?? "" : "";
     }
 

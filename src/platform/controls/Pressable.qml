@@ -11,8 +11,8 @@ T.AbstractButton {
     Accessible.description: description
     Accessible.name: text
     Accessible.role: Accessible.Button
-    Keys.onEnterPressed: pressable.click()
-    Keys.onReturnPressed: pressable.click()
+    Keys.onEnterPressed: pressable.clicked()
+    Keys.onReturnPressed: pressable.clicked()
     focusPolicy: Qt.StrongFocus
     implicitHeight: Math.max(Metrics.rowHeight, implicitContentHeight + topPadding + bottomPadding)
     implicitWidth: Math.max(Metrics.rowHeight, implicitContentWidth + leftPadding + rightPadding)

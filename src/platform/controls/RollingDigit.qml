@@ -12,10 +12,11 @@ Item {
     /*! True lets a change roll. */
     required property bool rolls
     readonly property int digit: digits.indexOf(character)
+    readonly property bool rolling: roll.running && digit >= 0
     /*! The digit in sight, between two of them while it rolls. */
     property real shown: Math.max(0, digit)
 
-    clip: rolling.running
+    clip: rolling
     height: plain.implicitHeight
     visible: character !== ""
     width: plain.implicitWidth
@@ -24,7 +25,7 @@ Item {
         enabled: place.rolls
 
         NumberAnimation {
-            id: rolling
+            id: roll
 
             duration: Motion.duration(250)
             easing.type: Easing.InOutQuad
@@ -39,27 +40,22 @@ Item {
         elide: Text.ElideNone
         font: place.font
         text: place.character
-        visible: !column.active
+        visible: !place.rolling
     }
-    Loader {
-        id: column
-
-        active: rolling.running && place.digit >= 0
+    Column {
         y: -place.shown * place.height
 
-        sourceComponent: Column {
-            Repeater {
-                model: place.digits
+        Repeater {
+            model: place.rolling ? place.digits : []
 
-                PlainText {
-                    required property string modelData
+            PlainText {
+                required property string modelData
 
-                    Accessible.ignored: true
-                    color: place.color
-                    elide: Text.ElideNone
-                    font: place.font
-                    text: modelData
-                }
+                Accessible.ignored: true
+                color: place.color
+                elide: Text.ElideNone
+                font: place.font
+                text: modelData
             }
         }
     }

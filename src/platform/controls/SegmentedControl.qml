@@ -35,67 +35,68 @@ T.Control {
         color: SystemColors.fill
         radius: 9
     }
-    contentItem: Item {
-        Rectangle {
-            id: thumb
+    Rectangle {
+        id: thumb
 
-            readonly property int place: control.mirrored ? control.labels.length - 1 - control.index : control.index
+        readonly property int place: control.mirrored ? control.labels.length - 1 - control.index : control.index
 
-            border.color: SystemColors.separator
-            border.width: SystemColors.dark ? 0 : Metrics.hairline
-            color: SystemColors.thumb
-            height: parent.height
-            radius: 7
-            visible: control.index >= 0
-            width: control.segmentWidth
-            x: place * control.segmentWidth
+        border.color: SystemColors.separator
+        border.width: SystemColors.dark ? 0 : Metrics.hairline
+        color: SystemColors.thumb
+        height: control.availableHeight
+        radius: 7
+        visible: control.index >= 0
+        width: control.segmentWidth
+        x: control.padding + place * control.segmentWidth
+        y: control.padding
 
-            Behavior on x {
-                enabled: thumb.visible && control.visible
+        Behavior on x {
+            enabled: thumb.visible && control.visible
 
-                NumberAnimation {
-                    duration: Motion.duration(250)
-                    easing.type: Easing.OutCubic
-                }
+            NumberAnimation {
+                duration: Motion.duration(250)
+                easing.type: Easing.OutCubic
             }
         }
-        Row {
-            height: parent.height
+    }
+    Row {
+        height: control.availableHeight
+        x: control.padding
+        y: control.padding
 
-            Repeater {
-                model: control.labels
+        Repeater {
+            model: control.labels
 
-                PlainText {
-                    id: segment
+            PlainText {
+                id: segment
 
-                    required property string modelData
-                    readonly property bool chosen: modelData === control.selected
+                required property string modelData
+                readonly property bool chosen: modelData === control.selected
 
-                    Accessible.checkable: true
-                    Accessible.checked: chosen
-                    Accessible.focusable: true
-                    Accessible.name: modelData
-                    Accessible.role: Accessible.RadioButton
-                    font: chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
-                    fontSizeMode: Text.HorizontalFit
-                    height: parent.height
-                    horizontalAlignment: Text.AlignHCenter
-                    minimumPointSize: 6
-                    opacity: tap.pressed && !chosen ? 0.4 : 1
-                    text: modelData
-                    verticalAlignment: Text.AlignVCenter
-                    width: control.segmentWidth
+                Accessible.checkable: true
+                Accessible.checked: chosen
+                Accessible.focusable: true
+                Accessible.name: modelData
+                Accessible.role: Accessible.RadioButton
+                font: chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
+                fontSizeMode: Text.HorizontalFit
+                height: parent.height
+                horizontalAlignment: Text.AlignHCenter
+                minimumPointSize: 6
+                opacity: tap.pressed && !chosen ? 0.4 : 1
+                text: modelData
+                verticalAlignment: Text.AlignVCenter
+                width: control.segmentWidth
 
-                    Accessible.onPressAction: control.picked(modelData)
-                    Accessible.onToggleAction: control.picked(modelData)
+                Accessible.onPressAction: control.picked(modelData)
+                Accessible.onToggleAction: control.picked(modelData)
 
-                    TapHandler {
-                        id: tap
+                TapHandler {
+                    id: tap
 
-                        gesturePolicy: TapHandler.ReleaseWithinBounds
+                    gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                        onTapped: control.picked(segment.modelData)
-                    }
+                    onTapped: control.picked(segment.modelData)
                 }
             }
         }

@@ -43,10 +43,12 @@ Item {
         parent: sheet.overlay
         width: parent ? parent.width : 0
 
-        contentItem: SheetLayer {
+        SheetLayer {
             id: layer
 
             LayoutMirroring.childrenInherit: true
+            anchors.fill: parent
+            focus: true
             LayoutMirroring.enabled: sheet.LayoutMirroring.enabled
             barHeight: sheet.barHeight
             color: sheet.color

@@ -22,61 +22,58 @@ FormRow {
     Keys.onEnterPressed: row.toggle()
     Keys.onReturnPressed: row.toggle()
     Keys.onSpacePressed: row.toggle()
+    contentHeight: Math.max(track.height, caption.implicitHeight)
     focusPolicy: Qt.StrongFocus
 
     Accessible.onPressAction: toggle()
     Accessible.onToggleAction: toggle()
 
-    contentItem: Item {
-        implicitHeight: Math.max(track.height, caption.implicitHeight)
+    PlainText {
+        id: caption
 
-        PlainText {
-            id: caption
+        Accessible.ignored: true
+        anchors.left: parent.left
+        anchors.right: track.left
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.label
+    }
+    Rectangle {
+        id: track
 
-            Accessible.ignored: true
-            anchors.left: parent.left
-            anchors.right: track.left
-            anchors.verticalCenter: parent.verticalCenter
-            text: row.label
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        color: row.checked ? SystemColors.green : SystemColors.fill
+        height: 31
+        radius: height / 2
+        width: 51
+
+        Behavior on color {
+            ColorAnimation {
+                duration: Motion.duration(200)
+            }
         }
+
         Rectangle {
-            id: track
+            readonly property bool atRight: row.checked !== row.mirrored
 
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            color: row.checked ? SystemColors.green : SystemColors.fill
-            height: 31
+            border.color: SystemColors.separator
+            border.width: Metrics.hairline
+            color: SystemColors.white
+            height: 27
             radius: height / 2
-            width: 51
+            width: tap.pressed ? 31 : 27
+            x: atRight ? track.width - width - 2 : 2
+            y: 2
 
-            Behavior on color {
-                ColorAnimation {
-                    duration: Motion.duration(200)
+            Behavior on width {
+                NumberAnimation {
+                    duration: Motion.duration(150)
                 }
             }
-
-            Rectangle {
-                readonly property bool atRight: row.checked !== row.mirrored
-
-                border.color: SystemColors.separator
-                border.width: Metrics.hairline
-                color: SystemColors.white
-                height: 27
-                radius: height / 2
-                width: tap.pressed ? 31 : 27
-                x: atRight ? track.width - width - 2 : 2
-                y: 2
-
-                Behavior on width {
-                    NumberAnimation {
-                        duration: Motion.duration(150)
-                    }
-                }
-                Behavior on x {
-                    NumberAnimation {
-                        duration: Motion.duration(200)
-                        easing.type: Easing.OutCubic
-                    }
+            Behavior on x {
+                NumberAnimation {
+                    duration: Motion.duration(200)
+                    easing.type: Easing.OutCubic
                 }
             }
         }
