@@ -12,6 +12,7 @@ Pressable {
     implicitWidth: leftPadding + image.width + Metrics.step * 2 + caption.implicitWidth + rightPadding
     leftPadding: Metrics.padding + Metrics.step
     rightPadding: Metrics.padding + Metrics.step
+    width: Math.min(implicitWidth, parent ? parent.width - 2 * Metrics.padding : Infinity)
 
     background: Rectangle {
         color: SystemColors.fill
@@ -39,6 +40,8 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.accent
         font: TextStyles.headline
+        fontSizeMode: Text.HorizontalFit
+        minimumPointSize: TextStyles.footnote.pointSize / 2
         text: button.text
     }
 

@@ -19,6 +19,8 @@ Pressable {
         anchors.leftMargin: Metrics.step
         anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.accent
+        height: Metrics.symbolSize
+        width: Metrics.symbolSize
         name: button.mirrored ? "chevron.right" : "chevron.left"
     }
     PlainText {

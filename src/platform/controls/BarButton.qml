@@ -12,7 +12,9 @@ Pressable {
     SystemImage {
         anchors.centerIn: parent
         color: button.enabled ? SystemColors.accent : SystemColors.tertiaryLabel
+        height: Metrics.symbolSize
         name: button.symbol
+        width: Metrics.symbolSize
     }
 
     FocusRing {

@@ -9,6 +9,9 @@ QtObject {
     readonly property int rowHeight: Math.max(44, Math.ceil(body.height + 5 * step))
     readonly property int cardRadius: 10
 
+    /*! The side of a bar's symbol, which grows with the text beside it. */
+    readonly property int symbolSize: Math.max(22, Math.round(0.9 * body.height))
+
     /*! The widest that a column of text and controls gets, however wide the window. */
     readonly property int readableWidth: 620
 

@@ -64,7 +64,7 @@ Column {
                 font: TextStyles.footnote
                 fontSizeMode: Text.HorizontalFit
                 horizontalAlignment: Text.AlignHCenter
-                minimumPointSize: 6
+                minimumPointSize: TextStyles.footnote.pointSize / 2
                 text: modelData
                 width: grid.cellWidth
             }

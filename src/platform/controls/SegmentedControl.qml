@@ -82,7 +82,7 @@ T.Control {
                 fontSizeMode: Text.HorizontalFit
                 height: parent.height
                 horizontalAlignment: Text.AlignHCenter
-                minimumPointSize: 6
+                minimumPointSize: TextStyles.footnote.pointSize / 2
                 opacity: tap.pressed && !chosen ? 0.4 : 1
                 text: modelData
                 verticalAlignment: Text.AlignVCenter

@@ -71,6 +71,8 @@ FocusScope {
         Rectangle {
             anchors.bottomMargin: layer.floating ? 0 : -radius
             anchors.fill: parent
+            anchors.leftMargin: layer.wide ? 0 : -border.width
+            anchors.rightMargin: anchors.leftMargin
             border.color: SystemColors.separator
             border.width: SystemColors.dark ? Metrics.hairline : 0
             color: layer.color

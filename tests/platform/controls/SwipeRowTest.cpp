@@ -1,0 +1,74 @@
+#include "Stage.h"
+
+#include <gtest/gtest.h>
+
+namespace kovamo {
+namespace {
+
+constexpr const char* rows = R"(
+    LayoutMirroring.enabled: mirrored
+    LayoutMirroring.childrenInherit: true
+    property bool mirrored: false
+    ListView {
+        anchors.fill: parent; model: 2
+        delegate: SwipeRow {
+            required property int index
+            objectName: 'row' + index
+            onClicked: log += 'clicked ' + index
+            onDeleteRequested: log += 'delete ' + index
+        }
+    })";
+
+TEST(SwipeRow, IsPulledAsideToDelete) {
+    struct Case {
+        const char* what;
+        int by;
+        const char* log;
+        double offset;
+    };
+    for (const bool mirrored : {false, true})
+        for (const Case& c : {Case{"a little", 25, "", 0}, Case{"half", 60, "", 86},
+                              Case{"the wrong way", -200, "", 0},
+                              Case{"all the way", 300, "delete 0", 390}}) {
+            Stage stage(rows);
+            stage.set("mirrored", mirrored);
+            stage.drag({195, 20}, {mirrored ? c.by : -c.by, 0});
+            EXPECT_EQ(stage.log(), c.log) << c.what;
+            EXPECT_NEAR(stage.get("offset", "row0").toDouble(), c.offset, 8) << c.what;
+        }
+}
+
+TEST(SwipeRow, OnceOpenDeletesOrCloses) {
+    Stage stage(rows);
+    const auto offset = [&] { return stage.get("offset", "row0").toDouble(); };
+    for (const QPoint elsewhere : {QPoint(100, 20), QPoint(100, 60), QPoint(200, 700)}) {
+        stage.drag({195, 20}, {-80, 0});
+        EXPECT_GT(offset(), 0);
+        stage.click(elsewhere);
+        EXPECT_EQ(offset(), 0);
+        EXPECT_EQ(stage.log(), "") << "the tap that closes does nothing else";
+    }
+    stage.click({100, 60});
+    EXPECT_EQ(stage.log(), "clicked 1");
+    stage.drag({195, 20}, {-80, 0});
+    stage.click({370, 20});
+    EXPECT_EQ(stage.log(), "clicked 1delete 0");
+}
+
+TEST(SwipeRow, ListensToTheKeyboardAndHasAMenu) {
+    Stage stage(rows);
+    stage.item("row1")->forceActiveFocus(Qt::TabFocusReason);
+    stage.press(Qt::Key_Return);
+    stage.press(Qt::Key_Delete);
+    EXPECT_EQ(stage.log(), "clicked 1delete 1");
+    stage.press(Qt::Key_Menu);
+    stage.press(Qt::Key_Down);
+    stage.press(Qt::Key_Return);
+    EXPECT_EQ(stage.log(), "clicked 1delete 1delete 1");
+    stage.click({100, 20}, Qt::RightButton);
+    stage.click(stage.showing("Delete"));
+    EXPECT_EQ(stage.log(), "clicked 1delete 1delete 1delete 0");
+}
+
+} // namespace
+} // namespace kovamo
