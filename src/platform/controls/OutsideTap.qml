@@ -1,23 +1,30 @@
 import QtQuick
 
-/*! While enabled, swallows the next press anywhere in the window but inside one item. */
-MouseArea {
+/*! While enabled, swallows a tap anywhere in the window but inside one item. */
+Item {
     id: catcher
 
     required property Item inside
 
     signal tapped
 
-    // Above the window's sheets and menus.
     height: parent ? parent.height : 0
     parent: inside.Window.contentItem
     visible: enabled
     width: parent ? parent.width : 0
+    // Above the window's sheets and menus.
     z: 2000000
 
-    onPressed: mouse => {
-        mouse.accepted = !inside.contains(mapToItem(inside, mouse.x, mouse.y));
-        if (mouse.accepted)
-            catcher.tapped();
+    containmentMask: QtObject {
+        function contains(point: point): bool {
+            return !catcher.inside.contains(catcher.mapToItem(catcher.inside, point));
+        }
+    }
+
+    TapHandler {
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+
+        onPressedChanged: if (pressed)
+            catcher.tapped()
     }
 }

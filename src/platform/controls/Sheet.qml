@@ -67,6 +67,8 @@ Item {
                 anchors.fill: parent
                 focus: true
                 sourceComponent: sheet.contentComponent
+
+                onLoaded: item.focus = true
             }
         }
 

@@ -28,7 +28,8 @@ FocusScope {
     function release(velocity: real) {
         if (layer.position - velocity * 0.2 / layer.travel < 0.6)
             layer.dismissed();
-        layer.settle();
+        if (layer.presented)
+            layer.settle();
     }
 
     onPresentedChanged: settle()
@@ -57,6 +58,8 @@ FocusScope {
         Accessible.onPressAction: layer.dismissed()
 
         TapHandler {
+            gesturePolicy: TapHandler.ReleaseWithinBounds
+
             onTapped: layer.dismissed()
         }
     }
@@ -92,6 +95,12 @@ FocusScope {
             height: layer.barHeight
             width: parent.width
 
+            // A hand that has stopped before it lets go throws nothing.
+            Timer {
+                id: resting
+
+                interval: 100
+            }
             DragHandler {
                 id: drag
 
@@ -105,9 +114,12 @@ FocusScope {
                     if (active)
                         start = layer.position;
                     else
-                        layer.release(centroid.velocity.y);
+                        layer.release(resting.running ? centroid.velocity.y : 0);
                 }
-                onActiveTranslationChanged: layer.position = Math.min(1, start - activeTranslation.y / layer.travel)
+                onActiveTranslationChanged: {
+                    layer.position = Math.min(1, start - activeTranslation.y / layer.travel);
+                    resting.restart();
+                }
             }
         }
     }

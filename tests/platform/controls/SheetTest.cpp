@@ -48,14 +48,16 @@ TEST(Sheet, IsDraggedByItsBar) {
         const char* what;
         QPoint from;
         int by;
+        int milliseconds;
         const char* log;
     };
-    for (const Case& c : {Case{"far", {200, 60}, 500, "dismissed closed "},
-                          Case{"near", {200, 60}, 100, ""},
-                          Case{"up", {200, 60}, -40, ""},
-                          Case{"the content", {200, 700}, 100, ""}}) {
+    for (const Case& c : {Case{"far", {200, 60}, 500, 4000, "dismissed closed "},
+                          Case{"near", {200, 60}, 100, 4000, ""},
+                          Case{"near, thrown", {200, 60}, 100, 40, "dismissed closed "},
+                          Case{"up", {200, 60}, -40, 40, ""},
+                          Case{"the content", {200, 700}, 100, 40, ""}}) {
         SheetStage stage;
-        stage.drag(c.from, {0, c.by});
+        stage.drag(c.from, {0, c.by}, c.milliseconds);
         EXPECT_EQ(stage.log(), c.log) << c.what;
         EXPECT_EQ(stage.position(), *c.log == '\0' ? 1 : 0) << c.what;
     }

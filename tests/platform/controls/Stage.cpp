@@ -82,13 +82,13 @@ void Stage::click(QPoint point, Qt::MouseButton button) {
     QTest::lastMouseTimestamp += 10000;
 }
 
-void Stage::drag(QPoint from, QPoint by) {
+void Stage::drag(QPoint from, QPoint by, int milliseconds) {
     constexpr int steps = 20;
     QTest::mousePress(&m_window, Qt::LeftButton, {}, from);
-    for (int step = 1; step <= steps; ++step)
+    for (int step = 1; step <= steps; ++step) {
+        QTest::lastMouseTimestamp += milliseconds / steps;
         QTest::mouseMove(&m_window, from + by * step / steps);
-    QTest::lastMouseTimestamp += 1000;
-    QTest::mouseMove(&m_window, from + by);
+    }
     QTest::mouseRelease(&m_window, Qt::LeftButton, {}, from + by);
     QTest::lastMouseTimestamp += 10000;
 }

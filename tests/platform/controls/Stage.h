@@ -32,8 +32,8 @@ class Stage {
     [[nodiscard]] static QPoint middle(const QQuickItem* item);
     void click(const QQuickItem* item) { click(middle(item)); }
     void click(QPoint point, Qt::MouseButton button = Qt::LeftButton);
-    /// Presses at `from`, moves by `by` in small steps, stands still, and lets go.
-    void drag(QPoint from, QPoint by);
+    /// Presses at `from`, moves by `by` in small steps and in some time, and lets go.
+    void drag(QPoint from, QPoint by, int milliseconds = 4000);
     void press(Qt::Key key) { QTest::keyClick(&m_window, key); }
     void type(const QString& text);
     /// Whether `condition` comes true while the window lives on.

@@ -68,6 +68,7 @@ TEST(RollingNumber, RollsWhatChangesAndStandsOtherwise) {
     stage.set("digits", QStringList{"٠", "١", "٢", "٣", "٤", "٥", "٦", "٧", "٨", "٩"}, "number");
     stage.set("text", QStringLiteral("١٬٢٣٤"), "number");
     EXPECT_TRUE(digits(stage).rolling) << "other digits";
+    EXPECT_TRUE(Stage::soon([&] { return !digits(stage).rolling; }));
     EXPECT_EQ(digits(stage).text, "١٬٢٣٤") << "a number runs from left to right";
 }
 
