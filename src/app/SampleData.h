@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/objectstore/ManagedObjectContext.h"
+
+namespace kovamo {
+
+/// Saves some forty transactions of every kind around today into `context`.
+void addSampleData(ManagedObjectContext& context);
+
+} // namespace kovamo

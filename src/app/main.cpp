@@ -1,0 +1,79 @@
+#include "KovamoApp.h"
+#include "Options.h"
+#include "Pictures.h"
+#include "SampleData.h"
+#include "dashboard/ContentView.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <optional>
+
+namespace {
+
+constexpr int usageError = 2;
+
+/// Points the store and the preferences at a folder that goes with the process.
+void moveInto(const QTemporaryDir& scratch) {
+    qputenv("XDG_DATA_HOME", scratch.filePath(QStringLiteral("data")).toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", scratch.filePath(QStringLiteral("config")).toLocal8Bit());
+}
+
+/// Without a render device the toolkit's OpenGL path takes several times as long to its first
+/// frame as its software renderer. What the environment asks for goes first.
+void chooseRenderer() {
+    const QDir devices(QStringLiteral("/dev/dri"));
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") &&
+        devices.entryList({QStringLiteral("renderD*")}, QDir::System).isEmpty())
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    using namespace kovamo;
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const std::optional<Options> options = parsedOptions(arguments);
+    if (!options) {
+        std::fprintf(stderr, "%s\n", qPrintable(usage()));
+        return usageError;
+    }
+    if (options->wantsHelp || options->wantsVersion) {
+        std::printf("%s\n",
+                    qPrintable(options->wantsHelp ? usage() : QStringLiteral("Kovamo 1.0.0")));
+        return 0;
+    }
+
+    std::optional<QTemporaryDir> scratch;
+    if (options->isDemo || options->pictures) {
+        scratch.emplace();
+        moveInto(*scratch);
+        std::printf("Sample data in a throwaway store: nothing is kept.\n");
+        std::fflush(stdout);
+    }
+    chooseRenderer();
+    int toolkitArguments = 1;
+    const QGuiApplication application(toolkitArguments, argv);
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Kovamo"));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.kovamo.Kovamo"));
+
+    const KovamoApp app;
+    ManagedObjectContext& viewContext = app.persistenceController.container->viewContext();
+    if (scratch)
+        addSampleData(viewContext);
+    if (options->appearance)
+        SystemColors::shared().setColorScheme(*options->appearance);
+    ContentView content(viewContext);
+    QQmlApplicationEngine engine;
+    KovamoApp::showWindow(engine, content);
+    if (options->pictures) {
+        auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
+        return drawPictures(*window, content, *options->pictures) ? 0 : 1;
+    }
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,72 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Dashboard
+import Kovamo.Foundation
+import Kovamo.Views
+
+/*! The card with the verdict and the balance. */
+Item {
+    id: card
+
+    required property banner balance
+    required property list<string> digits
+
+    implicitHeight: balance.isShown ? Math.max(100, words.implicitHeight + Metrics.step * 4) + Metrics.padding * 2 : 0
+    visible: balance.isShown
+
+    ViewItem {
+        id: ground
+
+        Accessible.name: card.balance.sentence
+        Accessible.role: Accessible.StaticText
+        anchors.fill: parent
+        anchors.margins: Metrics.padding
+        view: card.balance.card
+    }
+    Column {
+        id: words
+
+        anchors.centerIn: parent
+        spacing: Metrics.step * 2
+        width: ground.width - Metrics.padding * 2
+
+        PlainText {
+            Accessible.ignored: true
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: SystemColors.white
+            font: TextStyles.headline
+            text: card.balance.infoText
+            width: Math.min(implicitWidth, parent.width)
+        }
+        Row {
+            anchors.horizontalCenter: parent.horizontalCenter
+            scale: Math.min(1, words.width / Math.max(1, width))
+
+            BannerText {
+                words: card.balance.kovamoText
+            }
+            BannerText {
+                words: card.balance.leadingSymbol
+            }
+            RollingNumber {
+                Accessible.ignored: true
+                color: SystemColors.white
+                digits: card.digits
+                font: TextStyles.bold(TextStyles.largeTitle)
+                text: card.balance.numberText
+            }
+            BannerText {
+                words: card.balance.trailingSymbol
+            }
+        }
+    }
+
+    component BannerText: EmphasizedText {
+        required property string words
+
+        Accessible.ignored: true
+        color: SystemColors.white
+        font.pointSize: TextStyles.largeTitle.pointSize
+        markup: "**" + words + "**"
+    }
+}

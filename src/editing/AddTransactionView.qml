@@ -1,0 +1,95 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Editing
+
+/*! The form through which a transaction is recorded or changed. */
+GroupedForm {
+    id: form
+
+    required property AddTransactionState transaction
+
+    navigationTitle: transaction.navigationTitle
+
+    Shortcut {
+        enabled: form.transaction.canSave
+        sequences: [StandardKey.Save]
+
+        onActivated: form.transaction.save()
+    }
+    FormSection {
+        FormTextField {
+            focus: true
+            placeholder: qsTr("Emoji")
+            text: form.transaction.emoji
+
+            onEdited: text => form.transaction.emoji = text
+        }
+        FormTextField {
+            placeholder: qsTr("Title")
+            text: form.transaction.title
+
+            onEdited: text => form.transaction.title = text
+        }
+        FormRow {
+            contentItem: SegmentedControl {
+                labels: form.transaction.positiveTypes
+                selected: form.transaction.selectedPositive
+
+                onPicked: label => form.transaction.selectedPositive = label
+            }
+        }
+        FormTextField {
+            numeric: true
+            placeholder: qsTr("Amount")
+            text: form.transaction.amount
+
+            onEdited: text => form.transaction.amount = text
+        }
+        ToggleRow {
+            checked: form.transaction.isRecurring
+            label: qsTr("Recurring")
+
+            onToggled: on => form.transaction.isRecurring = on
+        }
+        DateField {
+            label: qsTr("Date")
+            moment: form.transaction.startDate
+            visible: !form.transaction.isRecurring
+
+            onPicked: moment => form.transaction.startDate = moment
+        }
+        FormRow {
+            visible: form.transaction.isRecurring
+
+            contentItem: SegmentedControl {
+                labels: form.transaction.types
+                selected: form.transaction.selectedType
+
+                onPicked: label => form.transaction.selectedType = label
+            }
+        }
+        DateField {
+            label: qsTr("Start")
+            moment: form.transaction.startDate
+            visible: form.transaction.isRecurring
+
+            onPicked: moment => form.transaction.startDate = moment
+        }
+        DateField {
+            label: qsTr("End")
+            minimumMoment: form.transaction.startDate
+            moment: form.transaction.endDate
+            visible: form.transaction.isRecurring
+
+            onPicked: moment => form.transaction.endDate = moment
+        }
+    }
+    FormSection {
+        FormButton {
+            enabled: form.transaction.canSave
+            text: qsTr("Save")
+
+            onClicked: form.transaction.save()
+        }
+    }
+}

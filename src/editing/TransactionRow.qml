@@ -1,0 +1,57 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Foundation
+
+/*! The line that stands for a transaction: emoji, title, the mark of a recurrence, the amount. */
+Item {
+    id: row
+
+    required property string emoji
+    required property string title
+    required property bool isRecurring
+    required property string amount
+
+    implicitHeight: Math.max(Metrics.rowHeight, titleText.implicitHeight + Metrics.step * 4)
+
+    PlainText {
+        id: emojiText
+
+        Accessible.ignored: true
+        anchors.left: parent.left
+        anchors.leftMargin: Metrics.padding
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.emoji
+        width: Math.min(implicitWidth, row.width / 4)
+    }
+    PlainText {
+        id: titleText
+
+        Accessible.ignored: true
+        anchors.left: emojiText.right
+        anchors.leftMargin: Metrics.step * 2
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.title
+        width: Math.min(implicitWidth, amountText.x - x - Metrics.step * 2 - (symbol.visible ? symbol.width + Metrics.step * 2 : 0))
+    }
+    SystemImage {
+        id: symbol
+
+        anchors.left: titleText.right
+        anchors.leftMargin: Metrics.step * 2
+        anchors.verticalCenter: parent.verticalCenter
+        color: SystemColors.label
+        height: 20
+        name: "arrow.triangle.2.circlepath.circle"
+        visible: row.isRecurring
+        width: 20
+    }
+    PlainText {
+        id: amountText
+
+        Accessible.ignored: true
+        anchors.right: parent.right
+        anchors.rightMargin: Metrics.padding
+        anchors.verticalCenter: parent.verticalCenter
+        text: row.amount
+    }
+}

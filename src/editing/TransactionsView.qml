@@ -1,0 +1,75 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Editing
+import Kovamo.Foundation
+
+/*! The screen of all stored transactions, with the form of each behind its row. */
+NavigationStack {
+    id: screen
+
+    required property TransactionsState transactions
+
+    function open(row: int) {
+        transactions.edit(row);
+        push(formPage, {
+                "transaction": transactions.form
+            });
+    }
+
+    initialPage: ListView {
+        id: list
+
+        property string navigationTitle: qsTr("Transactions")
+
+        Accessible.name: navigationTitle
+        Accessible.role: Accessible.List
+        clip: true
+        keyNavigationEnabled: true
+        model: screen.transactions
+        reuseItems: true
+
+        delegate: SwipeRow {
+            id: row
+
+            required property int index
+            required property string emoji
+            required property string title
+            required property bool isRecurring
+            required property string amount
+            required property string sentence
+
+            accessibleName: sentence
+
+            onClicked: screen.open(index)
+            onDeleteRequested: screen.transactions.remove([index])
+
+            TransactionRow {
+                amount: row.amount
+                emoji: row.emoji
+                isRecurring: row.isRecurring
+                title: row.title
+                width: row.width
+            }
+            Divider {
+                anchors.bottom: parent.bottom
+                anchors.left: parent.left
+                anchors.leftMargin: Metrics.padding
+                anchors.right: parent.right
+            }
+        }
+    }
+
+    Component {
+        id: formPage
+
+        AddTransactionView {
+        }
+    }
+    Connections {
+        function onDismissed() {
+            screen.pop();
+        }
+
+        target: screen.transactions.form
+    }
+}
