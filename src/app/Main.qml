@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Dashboard
 import Kovamo.Foundation
 
@@ -8,6 +9,8 @@ Window {
 
     required property ContentState content
     required property list<string> digits
+    /*! Whether things change at once instead of moving. */
+    property bool reducedMotion: false
 
     color: SystemColors.background
     height: 844
@@ -17,6 +20,11 @@ Window {
     visible: true
     width: 390
 
+    Binding {
+        property: "reduced"
+        target: Motion
+        value: window.reducedMotion
+    }
     Shortcut {
         sequences: [StandardKey.Quit]
 

@@ -30,6 +30,7 @@ struct Picture {
 
 bool drawPictures(QQuickWindow& window, ContentView& content, const QString& folder) {
     QDir().mkpath(folder);
+    window.setProperty("reducedMotion", true);
     const Picture pictures[] = {
         {"current-month", [] {}},
         {"three-months", [&] { content.select(2); }},

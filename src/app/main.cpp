@@ -5,6 +5,7 @@
 #include "dashboard/ContentView.h"
 
 #include <QDir>
+#include <QFontInfo>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
@@ -29,6 +30,14 @@ void chooseRenderer() {
     if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") &&
         devices.entryList({QStringLiteral("renderD*")}, QDir::System).isEmpty())
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+}
+
+/// Puts the colour emoji font right behind the system's own, before fonts that draw the same
+/// characters in black.
+void preferColourEmoji() {
+    QFont font = QGuiApplication::font();
+    font.setFamilies({QFontInfo(font).family(), QStringLiteral("Noto Color Emoji")});
+    QGuiApplication::setFont(font);
 }
 
 } // namespace
@@ -59,6 +68,7 @@ int main(int argc, char** argv) {
     chooseRenderer();
     int toolkitArguments = 1;
     const QGuiApplication application(toolkitArguments, argv);
+    preferColourEmoji();
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kovamo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.kovamo.Kovamo"));
 
