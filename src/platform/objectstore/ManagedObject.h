@@ -61,6 +61,8 @@ class ManagedObject {
     bool m_isInserted = false;
     bool m_isUpdated = false;
     bool m_isDeleted = false;
+    // In the changes that observers are still to be told.
+    bool m_isUnannounced = false;
 };
 
 } // namespace kovamo

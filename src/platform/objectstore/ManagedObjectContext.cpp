@@ -88,32 +88,29 @@ ManagedObject& ManagedObjectContext::insertObject() {
     inserted.m_values = m_entity.initialValues();
     inserted.m_isInserted = true;
     m_unsaved.inserted.push_back(&inserted);
-    m_unannounced.inserted.push_back(&inserted);
-    announceLater();
+    announceLater(m_unannounced.inserted, inserted);
     return inserted;
 }
 
 void ManagedObjectContext::didUpdate(ManagedObject& object) {
-    if (object.m_isInserted || object.m_isDeleted || object.m_isUpdated)
+    if (object.m_isDeleted)
         return;
-    object.m_isUpdated = true;
-    m_unsaved.updated.push_back(&object);
-    m_unannounced.updated.push_back(&object);
-    announceLater();
+    if (!object.m_isInserted && !std::exchange(object.m_isUpdated, true))
+        m_unsaved.updated.push_back(&object);
+    if (!object.m_isUnannounced)
+        announceLater(m_unannounced.updated, object);
 }
 
 void ManagedObjectContext::deleteObject(ManagedObject& object) {
-    if (object.m_isDeleted)
+    if (std::exchange(object.m_isDeleted, true))
         return;
-    object.m_isDeleted = true;
     std::erase(m_unsaved.inserted, &object);
     std::erase(m_unsaved.updated, &object);
     if (!object.m_isInserted)
         m_unsaved.deleted.push_back(&object);
     std::erase(m_unannounced.updated, &object);
     if (std::erase(m_unannounced.inserted, &object) == 0)
-        m_unannounced.deleted.push_back(&object);
-    announceLater();
+        announceLater(m_unannounced.deleted, object);
 }
 
 bool ManagedObjectContext::hasChanges() const {
@@ -136,10 +133,16 @@ void ManagedObjectContext::save() {
     m_unsaved = {};
 }
 
+void ManagedObjectContext::announceLater(std::vector<ManagedObject*>& changes,
+                                         ManagedObject& object) {
+    changes.push_back(&object);
+    object.m_isUnannounced = true;
+    announceLater();
+}
+
 void ManagedObjectContext::announceLater() {
-    if (std::exchange(m_willAnnounce, true))
-        return;
-    QMetaObject::invokeMethod(this, &ManagedObjectContext::announce, Qt::QueuedConnection);
+    if (!std::exchange(m_willAnnounce, true))
+        QMetaObject::invokeMethod(this, &ManagedObjectContext::announce, Qt::QueuedConnection);
 }
 
 void ManagedObjectContext::announce() {
@@ -147,6 +150,9 @@ void ManagedObjectContext::announce() {
     if (m_unannounced.isEmpty())
         return;
     const ObjectChanges changes = std::exchange(m_unannounced, {});
+    for (const auto* objects : {&changes.inserted, &changes.updated, &changes.deleted})
+        for (ManagedObject* object : *objects)
+            object->m_isUnannounced = false;
     Q_EMIT objectsDidChange(changes);
 }
 

@@ -86,6 +86,7 @@ class ManagedObjectContext : public QObject {
     ManagedObject& loadedObject(ObjectID id);
     void read(const ManagedObject& object);
     void didUpdate(ManagedObject& object);
+    void announceLater(std::vector<ManagedObject*>& changes, ManagedObject& object);
     void announceLater();
     void announce();
     void mergeChanges();
