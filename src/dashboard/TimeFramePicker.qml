@@ -62,8 +62,8 @@ Column {
                     onClicked: picker.picked(choice.modelData.value)
 
                     FocusRing {
-                        control: button
                         distance: -2
+                        visible: button.visualFocus
                     }
                 }
             }

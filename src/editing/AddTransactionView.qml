@@ -30,13 +30,11 @@ GroupedForm {
 
             onEdited: text => form.transaction.title = text
         }
-        FormRow {
-            contentItem: SegmentedControl {
-                labels: form.transaction.positiveTypes
-                selected: form.transaction.selectedPositive
+        PickerRow {
+            labels: form.transaction.positiveTypes
+            selected: form.transaction.selectedPositive
 
-                onPicked: label => form.transaction.selectedPositive = label
-            }
+            onPicked: label => form.transaction.selectedPositive = label
         }
         FormTextField {
             numeric: true
@@ -58,15 +56,12 @@ GroupedForm {
 
             onPicked: moment => form.transaction.startDate = moment
         }
-        FormRow {
+        PickerRow {
+            labels: form.transaction.types
+            selected: form.transaction.selectedType
             visible: form.transaction.isRecurring
 
-            contentItem: SegmentedControl {
-                labels: form.transaction.types
-                selected: form.transaction.selectedType
-
-                onPicked: label => form.transaction.selectedType = label
-            }
+            onPicked: label => form.transaction.selectedType = label
         }
         DateField {
             label: qsTr("Start")

@@ -46,7 +46,7 @@ Pressable {
     }
 
     FocusRing {
-        control: button
+        visible: button.visualFocus
         radius: height / 2
     }
 }

@@ -35,7 +35,7 @@ Pressable {
     }
 
     FocusRing {
-        control: button
+        visible: button.visualFocus
         distance: -2
     }
 }

@@ -18,7 +18,7 @@ Pressable {
     }
 
     FocusRing {
-        control: button
+        visible: button.visualFocus
         distance: -2
     }
 }

@@ -40,7 +40,7 @@ Column {
         Keys.onReturnPressed: field.toggle()
         Keys.onSpacePressed: field.toggle()
         contentHeight: pill.height
-        focusPolicy: Qt.StrongFocus
+        activeFocusOnTab: true
         isFirst: field.Positioner.isFirstItem
         isLast: field.Positioner.isLastItem && !field.unfolded
 
@@ -88,7 +88,7 @@ Column {
         visible: height > 0
         width: parent.width
 
-        Behavior on height {
+        Behavior on height  {
             NumberAnimation {
                 duration: Motion.duration(300)
                 easing.type: Easing.OutCubic

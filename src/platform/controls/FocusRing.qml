@@ -1,11 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Kovamo.Foundation
 
-/*! The ring around the control that the keyboard talks to; nothing for finger and mouse. */
+/*! The ring around what the keyboard talks to. */
 Rectangle {
-    required property T.Control control
-    /*! How far the ring stands off the control's edge; negative inside it. */
+    /*! How far the ring stands off the edge of what it is around; negative inside it. */
     property real distance: 2
 
     anchors.fill: parent
@@ -14,5 +12,4 @@ Rectangle {
     border.width: 2
     color: "transparent"
     radius: Metrics.cardRadius
-    visible: control.visualFocus
 }

@@ -37,7 +37,7 @@ Pressable {
     }
 
     FocusRing {
-        control: button
+        visible: button.visualFocus
         distance: -2
     }
 }

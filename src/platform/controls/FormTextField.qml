@@ -1,4 +1,4 @@
-pragma ComponentBehavior: Bound
+pragma ComponentBehavior
 import QtQuick
 import QtQuick.Templates as T
 import Kovamo.Foundation
@@ -30,7 +30,7 @@ FormRow {
     contentHeight: input.implicitHeight
 
     onActiveFocusChanged: if (activeFocus)
-        input.forceActiveFocus(focusReason)
+        input.forceActiveFocus()
     onTextChanged: follow()
 
     Component.onCompleted: follow()
@@ -59,7 +59,7 @@ FormRow {
             visible: input.cursorVisible
             width: 2
 
-            SequentialAnimation on opacity {
+            SequentialAnimation on opacity  {
                 loops: Animation.Infinite
                 running: input.cursorVisible && !Motion.reduced
 
@@ -105,7 +105,6 @@ FormRow {
         }
         Row {
             id: slot
-
         }
     }
 

@@ -25,7 +25,9 @@ MonthCalendar::MonthCalendar(QObject* parent)
     : QAbstractListModel(parent), m_moment(Clock::now()), m_minimum(std::nan("")),
       m_cursor(Calendar().day(m_moment)) {}
 
-double MonthCalendar::moment() const { return momentOf(m_moment); }
+double MonthCalendar::moment() const {
+    return momentOf(m_moment);
+}
 
 void MonthCalendar::setMoment(double moment) {
     if (std::isnan(moment) || instantOf(moment) == m_moment)
@@ -63,7 +65,9 @@ int MonthCalendar::weeks() const {
     return (leadingCells() + Calendar().daysInMonth(m_cursor) + daysOfWeek - 1) / daysOfWeek;
 }
 
-int MonthCalendar::cursor() const { return leadingCells() + m_cursor.day - 1; }
+int MonthCalendar::cursor() const {
+    return leadingCells() + m_cursor.day - 1;
+}
 
 bool MonthCalendar::canGoBack() const {
     return !isBeforeMinimum({m_cursor.year, m_cursor.month, 0});
@@ -74,7 +78,9 @@ void MonthCalendar::previousMonth() {
         show({m_cursor.year, m_cursor.month - 1, 1});
 }
 
-void MonthCalendar::nextMonth() { show({m_cursor.year, m_cursor.month + 1, 1}); }
+void MonthCalendar::nextMonth() {
+    show({m_cursor.year, m_cursor.month + 1, 1});
+}
 
 void MonthCalendar::moveCursor(int days) {
     const CalendarDay target{m_cursor.year, m_cursor.month, m_cursor.day + days};
@@ -87,9 +93,13 @@ void MonthCalendar::pick(int index) {
         Q_EMIT picked(momentOf(Calendar().moved(m_moment, dayAt(index))));
 }
 
-void MonthCalendar::reset() { show(Calendar().day(m_moment)); }
+void MonthCalendar::reset() {
+    show(Calendar().day(m_moment));
+}
 
-int MonthCalendar::rowCount(const QModelIndex& parent) const { return parent.isValid() ? 0 : cells; }
+int MonthCalendar::rowCount(const QModelIndex& parent) const {
+    return parent.isValid() ? 0 : cells;
+}
 
 QVariant MonthCalendar::data(const QModelIndex& index, int role) const {
     if (!isDay(index.row()))

@@ -1,6 +1,5 @@
-pragma ComponentBehavior: Bound
+pragma ComponentBehavior
 import QtQuick
-import QtQuick.Templates as T
 import Kovamo.Controls
 import Kovamo.Foundation
 
@@ -70,10 +69,10 @@ Column {
             }
         }
     }
-    T.Control {
+    Focusable {
         id: days
 
-        readonly property int back: mirrored ? 1 : -1
+        readonly property int back: LayoutMirroring.enabled ? 1 : -1
 
         Accessible.name: grid.calendar.title
         Accessible.role: Accessible.Table
@@ -84,7 +83,7 @@ Column {
         Keys.onRightPressed: grid.calendar.moveCursor(-back)
         Keys.onSpacePressed: grid.calendar.pick(grid.calendar.cursor)
         Keys.onUpPressed: grid.calendar.moveCursor(-7)
-        focusPolicy: Qt.StrongFocus
+        activeFocusOnTab: true
         implicitHeight: grid.calendar.weeks * grid.cellHeight
         width: parent.width
 
@@ -96,7 +95,7 @@ Column {
                 grid.calendar.nextMonth();
         }
 
-        contentItem: Grid {
+        Grid {
             columns: 7
 
             Repeater {

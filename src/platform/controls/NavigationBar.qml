@@ -37,13 +37,6 @@ Item {
         anchors.leftMargin: backButton.visible ? 0 : Metrics.step
         anchors.verticalCenter: parent.verticalCenter
     }
-    Row {
-        id: trailingRow
-
-        anchors.right: parent.right
-        anchors.rightMargin: Metrics.step
-        anchors.verticalCenter: parent.verticalCenter
-    }
     PlainText {
         id: titleText
 
@@ -53,6 +46,13 @@ Item {
         font: TextStyles.headline
         text: bar.title
         width: Math.min(implicitWidth, bar.width - 2 * bar.side)
+    }
+    Row {
+        id: trailingRow
+
+        anchors.right: parent.right
+        anchors.rightMargin: Metrics.step
+        anchors.verticalCenter: parent.verticalCenter
     }
     Divider {
         anchors.bottom: parent.bottom

@@ -18,7 +18,7 @@ T.AbstractButton {
     implicitWidth: Math.max(Metrics.rowHeight, implicitContentWidth + leftPadding + rightPadding)
     opacity: pressed ? 0.35 : 1
 
-    Behavior on opacity {
+    Behavior on opacity  {
         enabled: !pressable.pressed
 
         NumberAnimation {

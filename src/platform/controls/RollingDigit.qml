@@ -1,4 +1,4 @@
-pragma ComponentBehavior: Bound
+pragma ComponentBehavior
 import QtQuick
 
 /*! One place of a rolling number: a digit, or any other character, which just shows. */
@@ -21,7 +21,7 @@ Item {
     visible: character !== ""
     width: plain.implicitWidth
 
-    Behavior on shown {
+    Behavior on shown  {
         enabled: place.rolls
 
         NumberAnimation {

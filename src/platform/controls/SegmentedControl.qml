@@ -1,24 +1,25 @@
-pragma ComponentBehavior: Bound
+pragma ComponentBehavior
 import QtQuick
-import QtQuick.Templates as T
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! One choice out of a few, side by side. The owner holds the choice: it hears `picked` and sets
     `selected`. */
-T.Control {
+Focusable {
     id: control
 
     property list<string> labels
     /*! The label that is chosen. */
     property string selected
+    readonly property int inset: 2
     readonly property int index: labels.indexOf(selected)
-    readonly property real segmentWidth: availableWidth / Math.max(1, labels.length)
+    readonly property real segmentWidth: (width - 2 * inset) / Math.max(1, labels.length)
 
     /*! The user chose `label`. */
     signal picked(string label)
 
     function step(by: int) {
-        const next = control.index + (control.mirrored ? -by : by);
+        const next = control.index + (control.LayoutMirroring.enabled ? -by : by);
         if (next >= 0 && next < control.labels.length)
             control.picked(control.labels[next]);
     }
@@ -26,31 +27,31 @@ T.Control {
     Accessible.role: Accessible.Grouping
     Keys.onLeftPressed: control.step(-1)
     Keys.onRightPressed: control.step(1)
-    focusPolicy: Qt.StrongFocus
+    activeFocusOnTab: true
     implicitHeight: Math.max(32, sizer.height + Metrics.step * 3)
     implicitWidth: Math.max(200, labels.length * 100)
-    padding: 2
 
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         color: SystemColors.fill
         radius: 9
     }
     Rectangle {
         id: thumb
 
-        readonly property int place: control.mirrored ? control.labels.length - 1 - control.index : control.index
+        readonly property int place: control.LayoutMirroring.enabled ? control.labels.length - 1 - control.index : control.index
 
         border.color: SystemColors.separator
         border.width: SystemColors.dark ? 0 : Metrics.hairline
         color: SystemColors.thumb
-        height: control.availableHeight
+        height: control.height - 2 * control.inset
         radius: 7
         visible: control.index >= 0
         width: control.segmentWidth
-        x: control.padding + place * control.segmentWidth
-        y: control.padding
+        x: control.inset + place * control.segmentWidth
+        y: control.inset
 
-        Behavior on x {
+        Behavior on x  {
             enabled: thumb.visible && control.visible
 
             NumberAnimation {
@@ -60,9 +61,9 @@ T.Control {
         }
     }
     Row {
-        height: control.availableHeight
-        x: control.padding
-        y: control.padding
+        height: control.height - 2 * control.inset
+        x: control.inset
+        y: control.inset
 
         Repeater {
             model: control.labels
@@ -108,7 +109,7 @@ T.Control {
         font: TextStyles.subheadline
     }
     FocusRing {
-        control: control
+        visible: control.visualFocus
         radius: 10
     }
 }

@@ -20,6 +20,7 @@ Item {
     /*! How far the sheet is open: 0 … 1. */
     readonly property alias position: layer.position
     readonly property bool opened: layer.position === 1
+    property Item focusedBefore: null
     readonly property Item overlay: T.Overlay.overlay
 
     /*! The user wants the sheet to go: the owner resets its flag. */
@@ -27,11 +28,24 @@ Item {
     /*! The sheet is gone from the screen. */
     signal closed
 
+    function open() {
+        if (!popup.visible)
+            sheet.focusedBefore = sheet.Window.activeFocusItem;
+        popup.open();
+    }
+
+    function close() {
+        popup.close();
+        if (sheet.focusedBefore !== null)
+            sheet.focusedBefore.forceActiveFocus(Qt.PopupFocusReason);
+        sheet.closed();
+    }
+
     onPresentedChanged: if (presented)
-        popup.open()
+        open()
 
     Component.onCompleted: if (presented)
-        popup.open()
+        open()
 
     T.Popup {
         id: popup
@@ -54,10 +68,7 @@ Item {
             color: sheet.color
             presented: sheet.presented
 
-            onClosed: {
-                popup.close();
-                sheet.closed();
-            }
+            onClosed: sheet.close()
             onDismissed: sheet.dismissed()
 
             Loader {

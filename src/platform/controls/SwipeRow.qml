@@ -1,10 +1,10 @@
 import QtQuick
-import QtQuick.Templates as T
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A row of a list that is pulled aside to uncover "Delete"; pulled far enough, it deletes. The
     Delete key and the row's menu do the same. */
-T.Control {
+Focusable {
     id: row
 
     /*! What a screen reader says for the whole row. */
@@ -15,7 +15,7 @@ T.Control {
     property real offset: 0
     readonly property bool opened: offset > 0 && !drag.active
     readonly property real uncovered: Math.max(80, deleteText.implicitWidth + Metrics.padding * 2)
-    readonly property int direction: mirrored ? 1 : -1
+    readonly property int direction: LayoutMirroring.enabled ? 1 : -1
 
     /*! The row was tapped, or Enter pressed on it. */
     signal clicked
@@ -46,7 +46,7 @@ T.Control {
     Keys.onMenuPressed: menu.popup(row, row.width / 2, row.height / 2)
     Keys.onReturnPressed: row.clicked()
     Keys.onSpacePressed: row.clicked()
-    focusPolicy: Qt.StrongFocus
+    activeFocusOnTab: true
     implicitHeight: Metrics.rowHeight
     width: ListView.view ? ListView.view.width : implicitWidth
 
@@ -73,7 +73,7 @@ T.Control {
             color: row.offset > 0 ? SystemColors.red : "transparent"
             height: parent.height
             width: Math.max(row.uncovered, row.offset)
-            x: row.mirrored ? 0 : parent.width - width
+            x: row.LayoutMirroring.enabled ? 0 : parent.width - width
 
             Accessible.onPressAction: row.deleteRequested()
 
@@ -155,7 +155,7 @@ T.Control {
         }
     }
     FocusRing {
-        control: row
+        visible: row.visualFocus
         distance: -2
     }
 }

@@ -143,7 +143,8 @@ void SystemImage::paint(QPainter* painter) {
     painter->scale(side / 24, side / 24);
     QPainterPathStroker stroker(QPen(Qt::black, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter->fillPath(symbol.areas.subtracted(stroker.createStroke(symbol.cuts)), m_color);
-    painter->strokePath(symbol.strokes, QPen(m_color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->strokePath(symbol.strokes,
+                        QPen(m_color, 2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
 }
 
 } // namespace kovamo

@@ -16,16 +16,16 @@ QtObject {
     /*! The system's font at `points` layout points. */
     function style(points: real, weight: int): font {
         return Qt.font({
-            "pointSize": points * 0.75,
-            "weight": weight
-        });
+                "pointSize": points * 0.75,
+                "weight": weight
+            });
     }
 
     /*! `style` in bold. */
     function bold(style: font): font {
         return Qt.font({
-            "pointSize": style.pointSize,
-            "weight": Font.Bold
-        });
+                "pointSize": style.pointSize,
+                "weight": Font.Bold
+            });
     }
 }

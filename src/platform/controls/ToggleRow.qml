@@ -23,7 +23,7 @@ FormRow {
     Keys.onReturnPressed: row.toggle()
     Keys.onSpacePressed: row.toggle()
     contentHeight: Math.max(track.height, caption.implicitHeight)
-    focusPolicy: Qt.StrongFocus
+    activeFocusOnTab: true
 
     Accessible.onPressAction: toggle()
     Accessible.onToggleAction: toggle()
@@ -47,14 +47,14 @@ FormRow {
         radius: height / 2
         width: 51
 
-        Behavior on color {
+        Behavior on color  {
             ColorAnimation {
                 duration: Motion.duration(200)
             }
         }
 
         Rectangle {
-            readonly property bool atRight: row.checked !== row.mirrored
+            readonly property bool atRight: row.checked !== row.LayoutMirroring.enabled
 
             border.color: SystemColors.separator
             border.width: Metrics.hairline
@@ -65,12 +65,12 @@ FormRow {
             x: atRight ? track.width - width - 2 : 2
             y: 2
 
-            Behavior on width {
+            Behavior on width  {
                 NumberAnimation {
                     duration: Motion.duration(150)
                 }
             }
-            Behavior on x {
+            Behavior on x  {
                 NumberAnimation {
                     duration: Motion.duration(200)
                     easing.type: Easing.OutCubic

@@ -83,7 +83,9 @@ class SystemColors : public QObject {
     [[nodiscard]] QColor secondaryLabel() const {
         return resolved(SystemColor::secondaryLabel, m_scheme);
     }
-    [[nodiscard]] QColor tertiaryLabel() const { return resolved(SystemColor::tertiaryLabel, m_scheme); }
+    [[nodiscard]] QColor tertiaryLabel() const {
+        return resolved(SystemColor::tertiaryLabel, m_scheme);
+    }
     [[nodiscard]] QColor separator() const { return resolved(SystemColor::separator, m_scheme); }
     [[nodiscard]] QColor fill() const { return resolved(SystemColor::fill, m_scheme); }
     [[nodiscard]] QColor thumb() const { return resolved(SystemColor::thumb, m_scheme); }

@@ -50,11 +50,13 @@ TEST(MonthCalendar, FollowsTheLocalesCalendarWeekAndDigits) {
         const auto cells = picks(calendar);
         const int last = c.firstCell + c.days - 1;
         for (int cell = 0; cell < 42; ++cell)
-            EXPECT_EQ(cells[static_cast<size_t>(cell)].has_value(), cell >= c.firstCell && cell <= last)
+            EXPECT_EQ(cells[static_cast<size_t>(cell)].has_value(),
+                      cell >= c.firstCell && cell <= last)
                 << c.locale << " " << cell;
         const auto first = static_cast<size_t>(c.firstCell);
         EXPECT_EQ(words(*cells[first]), c.firstDay + std::string(" 10:20:00.000"));
-        EXPECT_EQ(calendar.data(calendar.index(c.firstCell), MonthCalendar::Text), QString::fromUtf8(c.firstText));
+        EXPECT_EQ(calendar.data(calendar.index(c.firstCell), MonthCalendar::Text),
+                  QString::fromUtf8(c.firstText));
         for (size_t cell = first; cell < static_cast<size_t>(last); ++cell)
             EXPECT_EQ(*cells[cell + 1] - *cells[cell], 24 * 3600 * 1000.0) << c.locale;
     }
@@ -84,10 +86,12 @@ TEST(MonthCalendar, OffersNothingBeforeTheDayOfTheMinimum) {
     calendar.setMinimumMoment(moment("2024-05-15 23:00"));
     const auto cells = picks(calendar);
     EXPECT_FALSE(cells[3 + 13].has_value());
-    EXPECT_EQ(words(cells[3 + 14].value()), "2024-05-15 10:00:00.000") << "its own day, though earlier in it";
+    EXPECT_EQ(words(cells[3 + 14].value()), "2024-05-15 10:00:00.000")
+        << "its own day, though earlier in it";
     EXPECT_FALSE(calendar.canGoBack());
-    for (const auto back : {+[](MonthCalendar& c) { c.previousMonth(); }, +[](MonthCalendar& c) { c.moveCursor(-1); },
-                            +[](MonthCalendar& c) { c.moveCursor(-7); }}) {
+    for (const auto back :
+         {+[](MonthCalendar& c) { c.previousMonth(); }, +[](MonthCalendar& c) { c.moveCursor(-1); },
+          +[](MonthCalendar& c) { c.moveCursor(-7); }}) {
         back(calendar);
         EXPECT_EQ(calendar.cursor(), 3 + 14);
     }

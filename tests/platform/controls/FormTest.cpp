@@ -12,7 +12,9 @@ constexpr const char* amountField = R"(
     function keep(text: string) { amount = text.replace(/[^0-9]/g, ''); }
     FormTextField { objectName: 'field'; text: amount; numeric: true; onEdited: text => keep(text) })";
 
-QQuickItem* focused(Stage& stage) { return stage.window()->activeFocusItem(); }
+QQuickItem* focused(Stage& stage) {
+    return stage.window()->activeFocusItem();
+}
 
 TEST(FormTextField, FollowsAnOwnerWhoFilters) {
     Stage stage(amountField);
@@ -33,14 +35,16 @@ TEST(FormTextField, FollowsAnOwnerWhoFilters) {
 }
 
 TEST(FormTextField, TakesAnyText) {
-    Stage stage("property string title\nFormTextField { objectName: 'field'; text: title; placeholder: "
-                "'Title'; onEdited: text => title = text }");
+    Stage stage(
+        "property string title\nFormTextField { objectName: 'field'; text: title; placeholder: "
+        "'Title'; onEdited: text => title = text }");
     EXPECT_TRUE(stage.showing("Title"));
     stage.click(stage.item("field"));
-    for (const QString& text :
-         {QStringLiteral("<b>bold</b> **stars** &amp;"), QStringLiteral("مقهى ☕️ ‏שלום"),
-          QStringLiteral("👩‍👩‍👧‍👦"), QString(QStringLiteral("a\0b\nc\td").data(), 7), QStringLiteral(" "),
-          QString(1'000'000, QLatin1Char('m'))}) {
+    for (const QString& text : {QStringLiteral("<b>bold</b> **stars** &amp;"),
+                                QStringLiteral("مقهى ☕️ ‏שלום"),
+                                QStringLiteral("👩‍👩‍👧‍👦"),
+                                QString(QStringLiteral("a\0b\nc\td").data(), 7),
+                                QStringLiteral(" "), QString(1'000'000, QLatin1Char('m'))}) {
         QGuiApplication::clipboard()->setText(text);
         QTest::keySequence(stage.window(), QKeySequence::SelectAll);
         QTest::keySequence(stage.window(), QKeySequence::Paste);
@@ -77,7 +81,7 @@ TEST(GroupedForm, ShowsWhatHasTheFocusAndTalksToTheKeyboard) {
                 objectName: 'section'
                 FormTextField { placeholder: 'Title' }
                 ToggleRow { label: 'Recurring'; checked: on; onToggled: to => on = to }
-                FormRow { visible: on; contentItem: SegmentedControl { labels: ['Monthly'] } }
+                PickerRow { visible: on; labels: ['Monthly'] }
                 FormRow { } FormRow { } FormRow { }
             }
             FormSection { FormButton { objectName: 'save'; text: 'Save'; onClicked: log += 'saved' } }

@@ -51,11 +51,11 @@ TEST(Sheet, IsDraggedByItsBar) {
         int milliseconds;
         const char* log;
     };
-    for (const Case& c : {Case{"far", {200, 60}, 500, 4000, "dismissed closed "},
-                          Case{"near", {200, 60}, 100, 4000, ""},
-                          Case{"near, thrown", {200, 60}, 100, 40, "dismissed closed "},
-                          Case{"up", {200, 60}, -40, 40, ""},
-                          Case{"the content", {200, 700}, 100, 40, ""}}) {
+    for (const Case& c :
+         {Case{"far", {200, 60}, 500, 4000, "dismissed closed "},
+          Case{"near", {200, 60}, 100, 4000, ""},
+          Case{"near, thrown", {200, 60}, 100, 40, "dismissed closed "},
+          Case{"up", {200, 60}, -40, 40, ""}, Case{"the content", {200, 700}, 100, 40, ""}}) {
         SheetStage stage;
         stage.drag(c.from, {0, c.by}, c.milliseconds);
         EXPECT_EQ(stage.log(), c.log) << c.what;
@@ -98,8 +98,11 @@ TEST(NavigationStack, GoesForwardAndBackAndKeepsThePagesBelow) {
         })");
     stage.set("place", 7, "first");
     EXPECT_TRUE(stage.showing("First"));
-    const auto back = {+[](Stage& s) { s.press(Qt::Key_Escape); }, +[](Stage& s) { s.press(Qt::Key_Back); },
-                       +[](Stage& s) { s.click({20, 22}); }};
+    const auto back = {+[](Stage& s) { s.press(Qt::Key_Escape); },
+                       +[](Stage& s) { s.press(Qt::Key_Back); },
+                       +[](Stage& s) {
+                           s.click({20, 22});
+                       }};
     for (const auto& goBack : back) {
         QMetaObject::invokeMethod(stage.item("stack"), "go");
         EXPECT_TRUE(stage.showing("Second"));

@@ -43,13 +43,16 @@ Stage::Stage(const char* body, bool reducedMotion) {
     EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
 }
 
-Stage::~Stage() { m_root.reset(); }
+Stage::~Stage() {
+    m_root.reset();
+}
 
 QQuickItem* Stage::item(const char* name) const {
     if (*name == '\0')
         return qobject_cast<QQuickItem*>(m_root.get());
-    QQuickItem* found = findItem(m_window.contentItem(),
-                                 [name](const QQuickItem* i) { return i->objectName() == QLatin1String(name); });
+    QQuickItem* found = findItem(m_window.contentItem(), [name](const QQuickItem* i) {
+        return i->objectName() == QLatin1String(name);
+    });
     if (found == nullptr)
         ADD_FAILURE() << "no item " << name;
     return found;

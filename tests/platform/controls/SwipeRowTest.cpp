@@ -27,9 +27,9 @@ TEST(SwipeRow, IsPulledAsideToDelete) {
         double offset;
     };
     for (const bool mirrored : {false, true})
-        for (const Case& c : {Case{"a little", 25, "", 0}, Case{"half", 60, "", 86},
-                              Case{"the wrong way", -200, "", 0},
-                              Case{"all the way", 300, "delete 0", 390}}) {
+        for (const Case& c :
+             {Case{"a little", 25, "", 0}, Case{"half", 60, "", 86},
+              Case{"the wrong way", -200, "", 0}, Case{"all the way", 300, "delete 0", 390}}) {
             Stage stage(rows);
             stage.set("mirrored", mirrored);
             stage.drag({195, 20}, {mirrored ? c.by : -c.by, 0});

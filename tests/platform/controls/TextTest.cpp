@@ -18,11 +18,11 @@ TEST(EmphasizedText, TakesOffTheStarsAndKeepsTheBlanks) {
         stage.set("markup", QString::fromLatin1(markup), "label");
         return stage.get("implicitWidth", "label").toDouble();
     };
-    for (const Case& c : {Case{"**Current**", "Current", true}, Case{"**+ **", "+ ", true},
-                          Case{"**   0**", "   0", true}, Case{"****", "", true},
-                          Case{"plain", "plain", false}, Case{"***", "***", false},
-                          Case{"**half", "**half", false}, Case{"a **b**", "a **b**", false},
-                          Case{"**<i>x</i> *y***", "<i>x</i> *y*", true}}) {
+    for (const Case& c :
+         {Case{"**Current**", "Current", true}, Case{"**+ **", "+ ", true},
+          Case{"**   0**", "   0", true}, Case{"****", "", true}, Case{"plain", "plain", false},
+          Case{"***", "***", false}, Case{"**half", "**half", false},
+          Case{"a **b**", "a **b**", false}, Case{"**<i>x</i> *y***", "<i>x</i> *y*", true}}) {
         stage.set("markup", QString::fromLatin1(c.markup), "label");
         EXPECT_EQ(stage.get("text", "label").toString().toStdString(), c.shown);
         EXPECT_EQ(stage.get("font", "label").value<QFont>().bold(), c.bold) << c.markup;
@@ -52,7 +52,8 @@ Digits digits(const Stage& stage) {
     return shown;
 }
 
-constexpr const char* number = "RollingNumber { objectName: 'number'; text: '9,995'; color: 'black' }";
+constexpr const char* number =
+    "RollingNumber { objectName: 'number'; text: '9,995'; color: 'black' }";
 
 TEST(RollingNumber, RollsWhatChangesAndStandsOtherwise) {
     Stage stage(number, false);
@@ -80,7 +81,8 @@ TEST(RollingNumber, StandsStillWithReducedMotion) {
 }
 
 TEST(SystemImage, PaintsTheSymbolsThatThereAreInTheirColour) {
-    Stage stage("SystemImage { objectName: 'image'; color: SystemColors.red; width: 24; height: 24 }");
+    Stage stage(
+        "SystemImage { objectName: 'image'; color: SystemColors.red; width: 24; height: 24 }");
     const auto painted = [&](const QString& name) {
         stage.set("name", name, "image");
         const QImage image = stage.window()->grabWindow().copy(0, 0, 24, 24);

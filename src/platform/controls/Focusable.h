@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QQuickItem>
+#include <QtQml/qqmlregistration.h>
+
+namespace kovamo {
+
+/// An item that the Tab key reaches and that knows whether the keyboard brought the focus to it.
+/// The toolkit's own controls know it too, but insist on their accessible role.
+class Focusable : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(bool visualFocus READ hasVisualFocus NOTIFY visualFocusChanged)
+
+  public:
+    explicit Focusable(QQuickItem* parent = nullptr) : QQuickItem(parent) {}
+
+    /// Whether the item has the focus and the user is to see it.
+    [[nodiscard]] bool hasVisualFocus() const { return m_visualFocus; }
+
+  Q_SIGNALS:
+    void visualFocusChanged();
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+
+  private:
+    void setVisualFocus(bool visualFocus);
+
+    bool m_visualFocus = false;
+};
+
+} // namespace kovamo
