@@ -1,4 +1,4 @@
-pragma ComponentBehavior
+pragma ComponentBehavior: Bound
 import QtQuick
 
 /*! One place of a rolling number: a digit, or any other character, which just shows. */

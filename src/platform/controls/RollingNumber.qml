@@ -1,4 +1,4 @@
-pragma ComponentBehavior
+pragma ComponentBehavior: Bound
 import QtQuick
 
 /*! A number whose digits roll to their new value: the column of the ten digits scrolls by. */

@@ -26,6 +26,10 @@ Focusable {
         row.slide(0);
     }
 
+    function showMenu() {
+        menu.popup(row, row.width / 2, row.height / 2);
+    }
+
     function slide(to: real) {
         movement.to = to;
         movement.restart();
@@ -43,7 +47,7 @@ Focusable {
         event.accepted = row.offset > 0;
         row.close();
     }
-    Keys.onMenuPressed: menu.popup(row, row.width / 2, row.height / 2)
+    Keys.onMenuPressed: row.showMenu()
     Keys.onReturnPressed: row.clicked()
     Keys.onSpacePressed: row.clicked()
     activeFocusOnTab: true
