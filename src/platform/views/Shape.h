@@ -12,12 +12,6 @@ concept Shape = std::copyable<S> && requires(const S shape, const QRectF& rect) 
     { shape.path(rect) } -> std::same_as<QPainterPath>;
 };
 
-/// A shape that can be drawn inside its rectangle by an amount, in points.
-template<class S>
-concept InsettableShape = Shape<S> && requires(const S shape, double amount) {
-    { shape.inset(amount) } -> std::same_as<S>;
-};
-
 /// The whole rectangle.
 struct Rectangle {
     [[nodiscard]] QPainterPath path(const QRectF& rect) const;
