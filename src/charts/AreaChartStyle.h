@@ -18,6 +18,9 @@ struct AreaChartStyle {
     }
 };
 
+template<View Fill>
+AreaChartStyle(LineType, Fill) -> AreaChartStyle<Fill>;
+
 /// One area for each part of the rows, each standing on the one before it, the first at the bottom.
 /// A row's missing and not finite parts count as 0. The colours are repeated when they run out.
 struct StackedAreaChartStyle {

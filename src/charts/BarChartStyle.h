@@ -15,10 +15,8 @@ struct BarChartBody {
         if (hasNegative(bars))
             paintZeroLine(painter, rect, Qt::Vertical, environment);
         const QRectF upright(QPointF(), rect.size().transposed());
-        for (const QRectF& frame : paintedColumnFrames(painter, bars, spacing, upright)) {
-            const QPointF corner(upright.height() - frame.bottom(), frame.x());
-            bar.paint(painter, {rect.topLeft() + corner, frame.size().transposed()}, environment);
-        }
+        for (const QRectF& frame : paintedColumnFrames(painter, bars, spacing, upright))
+            bar.paint(painter, laidOnSide(frame, rect), environment);
     }
 };
 

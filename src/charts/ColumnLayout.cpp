@@ -46,6 +46,11 @@ std::vector<QRectF> columnFrames(std::span<const ColumnData> columns, double spa
     return frames;
 }
 
+QRectF laidOnSide(const QRectF& frame, const QRectF& bounds) {
+    const QPointF corner(bounds.width() - frame.bottom(), frame.x());
+    return {bounds.topLeft() + corner, frame.size().transposed()};
+}
+
 std::optional<std::size_t> columnAt(double x, std::size_t count, double spacing,
                                     double totalWidth) {
     if (count == 0 || !(x >= 0 && x <= totalWidth))

@@ -36,6 +36,10 @@ struct ColumnMetrics {
 [[nodiscard]] std::vector<QRectF> columnFrames(std::span<const ColumnData> columns, double spacing,
                                                const QRectF& bounds);
 
+/// The place in `bounds` of a column's frame laid out in the transposed rectangle at (0, 0): from
+/// the top instead of from the left, growing to the right instead of up.
+[[nodiscard]] QRectF laidOnSide(const QRectF& frame, const QRectF& bounds);
+
 /// The index of the column at `x` points from the left edge, of the nearer one in a gap; none
 /// beside the chart.
 [[nodiscard]] std::optional<std::size_t> columnAt(double x, std::size_t count, double spacing,
