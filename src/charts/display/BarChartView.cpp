@@ -1,0 +1,73 @@
+#include "BarChartView.h"
+
+#include "charts/AxisLabels.h"
+#include "charts/BarChartStyle.h"
+#include "charts/Chart.h"
+#include "platform/views/ShapeViews.h"
+#include "platform/views/Text.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kovamo {
+
+namespace {
+
+constexpr double labelWidth = 56;
+
+QRectF barsRect(const QRectF& plot, bool labelled) {
+    return plot.adjusted(labelled ? labelWidth : 0, 0, 0, 0);
+}
+
+/// The chart of the values as shares of the largest magnitude.
+Chart barsChart(const ChartSeries& series) {
+    double largest = 0;
+    for (const double value : series.values)
+        if (std::isfinite(value))
+            largest = std::max(largest, std::abs(value));
+    std::vector<double> shares;
+    for (const double value : series.values)
+        shares.push_back(largest > 0 ? value / largest : 0);
+    return Chart(shares);
+}
+
+struct BarsPlot {
+    BarChartView chart;
+
+    void paint(QPainter& painter, const QRectF& rect, const EnvironmentValues& environment) const {
+        AxisLabels axis{Qt::Vertical, {}};
+        for (const QString& label : chart.labels)
+            axis.labels.emplace_back(Text{label, Color{SystemColor::secondaryLabel}, 11});
+        std::ranges::reverse(axis.labels);
+        axis.paint(painter, {rect.x(), rect.y(), labelWidth, rect.height()}, environment);
+        const FilledShape bar{RoundedRectangle{4}, chart.series.color};
+        chartStyle(barsChart(chart.series), BarChartStyle{bar, chart.spacing})
+            .paint(painter, barsRect(rect, !chart.labels.empty()), environment);
+    }
+};
+
+} // namespace
+
+std::vector<LegendEntry> BarChartView::legend() const {
+    return {{series.name, series.color}};
+}
+
+AnyView BarChartView::plot() const {
+    return BarsPlot{*this};
+}
+
+std::optional<Reading> BarChartView::reading(QPointF place, QSizeF size) const {
+    const QRectF bars = barsRect(QRectF(QPointF(), size), !labels.empty());
+    const double y = std::clamp(place.y(), 0., bars.height());
+    const auto index = columnAt(y, series.values.size(), spacing, bars.height());
+    if (!index || !std::isfinite(series.values[*index]))
+        return {};
+    const auto columns = columnData(barsChart(series).configuration);
+    const QRectF upright(QPointF(), bars.size().transposed());
+    const QRectF bar = laidOnSide(columnFrames(columns, spacing, upright)[*index], bars);
+    const double end = series.values[*index] < 0 ? bar.left() : bar.right();
+    const QString name = *index < labels.size() ? labels[*index] : series.name;
+    return Reading{{end, bar.center().y()}, readingText(name, series.values[*index]), series.color};
+}
+
+} // namespace kovamo

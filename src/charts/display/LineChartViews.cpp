@@ -1,0 +1,132 @@
+#include "LineChartViews.h"
+
+#include "charts/AreaChartStyle.h"
+#include "charts/AxisLabels.h"
+#include "charts/Chart.h"
+#include "charts/LineChartStyle.h"
+#include "platform/views/ShapeViews.h"
+#include "platform/views/Text.h"
+#include "shapes/GridPattern.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace kovamo {
+
+namespace {
+
+constexpr double labelHeight = 20;
+constexpr double headroom = 8;
+
+/// The rectangle that the lines are drawn in: the middles of the shares that the labels have of the
+/// width are where its points stand.
+QRectF linesRect(const QRectF& plot, std::size_t positions, bool labelled) {
+    const double side = plot.width() / (2 * std::max<double>(1, static_cast<double>(positions)));
+    return plot.adjusted(side, headroom, -side, labelled ? -labelHeight : -headroom);
+}
+
+std::size_t positions(const std::vector<ChartSeries>& series) {
+    std::size_t most = 0;
+    for (const ChartSeries& one : series)
+        most = std::max(most, one.values.size());
+    return most;
+}
+
+/// The series as fractions of their common scale, all as long as the longest: what a series lacks
+/// has no place.
+std::vector<std::vector<double>> fractions(const std::vector<ChartSeries>& series) {
+    PlotScale scale;
+    for (const ChartSeries& one : series)
+        scale.include(one.values);
+    std::vector<std::vector<double>> rows;
+    for (const ChartSeries& one : series)
+        rows.emplace_back(scale.fractions(one.values))
+            .resize(positions(series), std::numeric_limits<double>::quiet_NaN());
+    return rows;
+}
+
+/// Layers over a grid, drawn in the lines' rectangle, and the labels below it.
+struct LinesPlot {
+    std::vector<AnyView> layers;
+    std::vector<QString> labels;
+    std::size_t positions = 0;
+
+    void paint(QPainter& painter, const QRectF& rect, const EnvironmentValues& environment) const {
+        const QRectF lines = linesRect(rect, positions, !labels.empty());
+        const QRectF grid(rect.x(), lines.y(), rect.width(), lines.height());
+        StrokedShape{GridPattern{0, 5, 0}, Color{SystemColor::separator}, StrokeStyle{0.5}}.paint(
+            painter, grid, environment);
+        AxisLabels axis;
+        for (const QString& label : labels)
+            axis.labels.emplace_back(Text{label, Color{SystemColor::secondaryLabel}, 11});
+        axis.paint(painter, {rect.x(), lines.bottom(), rect.width(), labelHeight}, environment);
+        ZStack{layers}.paint(painter, lines, environment);
+    }
+};
+
+} // namespace
+
+std::vector<LegendEntry> MultiLineChartView::legend() const {
+    std::vector<LegendEntry> entries;
+    for (const ChartSeries& one : series)
+        entries.push_back({one.name, one.color});
+    return entries;
+}
+
+AnyView MultiLineChartView::plot() const {
+    LinesPlot plot{{}, labels, positions(series)};
+    const auto rows = fractions(series);
+    for (std::size_t i = 0; i < series.size(); ++i)
+        plot.layers.emplace_back(
+            chartStyle(Chart(rows[i]), LineChartStyle{lineType, series[i].color, lineWidth}));
+    return plot;
+}
+
+std::optional<Reading> MultiLineChartView::reading(QPointF place, QSizeF size) const {
+    const QRectF lines = linesRect(QRectF(QPointF(), size), positions(series), !labels.empty());
+    const auto rows = fractions(series);
+    std::optional<Reading> nearest;
+    std::pair<double, double> least;
+    for (std::size_t i = 0; i < series.size(); ++i) {
+        const auto unitPoints = makeUnitPoints(rows[i]);
+        for (std::size_t at = 0; at < series[i].values.size(); ++at) {
+            const QPointF point = lines.topLeft() + mapUnitPoint(unitPoints[at], lines);
+            const std::pair distance(std::abs(point.x() - place.x()),
+                                     std::abs(point.y() - place.y()));
+            if (!std::isfinite(point.y()) || (nearest && !(distance < least)))
+                continue;
+            QString name = at < labels.size() ? labels[at] : QString();
+            if (series.size() > 1 || name.isEmpty())
+                name = name.isEmpty() ? series[i].name : series[i].name % u' ' % name;
+            nearest = {point, readingText(name, series[i].values[at]), series[i].color};
+            least = distance;
+        }
+    }
+    return nearest;
+}
+
+MultiLineChartView LineChartView::lines() const {
+    return {title, {series}, labels, lineType, lineWidth};
+}
+
+std::vector<LegendEntry> LineChartView::legend() const {
+    return lines().legend();
+}
+
+AnyView LineChartView::plot() const {
+    const LinearGradient shade{{{series.color.name, 0.35}, {series.color.name, 0}}};
+    const Chart chart(fractions({series}).front());
+    LinesPlot plot{{}, labels, series.values.size()};
+    plot.layers = {
+        chartStyle(chart, AreaChartStyle{lineType, FilledShape{Rectangle{}, shade}}),
+        chartStyle(chart, LineChartStyle{lineType, series.color, lineWidth}),
+    };
+    return plot;
+}
+
+std::optional<Reading> LineChartView::reading(QPointF place, QSizeF size) const {
+    return lines().reading(place, size);
+}
+
+} // namespace kovamo
