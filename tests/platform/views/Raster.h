@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/views/AnyView.h"
+
+#include <QImage>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace kovamo {
+
+/// The picture of a view in `rect`, on white, of `size` points with `scale` pixels to a point.
+inline QImage raster(const AnyView& view, QSize size, const QRectF& rect, int scale = 1,
+                     const EnvironmentValues& environment = {}) {
+    QImage image(size * scale, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    view.paint(painter, rect, environment);
+    return image;
+}
+
+inline QImage raster(const AnyView& view, QSize size, int scale = 1) {
+    return raster(view, size, QRectF(QPointF(), size), scale);
+}
+
+/// Fails unless two colours are the same but for `tolerance` in each component.
+inline void expectColor(QColor actual, QColor expected, const char* where = "", int tolerance = 6) {
+    const auto near = [=](int a, int b) { return std::abs(a - b) <= tolerance; };
+    EXPECT_TRUE(near(actual.red(), expected.red()) && near(actual.green(), expected.green()) &&
+                near(actual.blue(), expected.blue()))
+        << where << ": " << actual.name().toStdString() << ", not "
+        << expected.name().toStdString();
+}
+
+inline QColor light(SystemColor color) {
+    return resolved(color, ColorScheme::light);
+}
+
+/// Whether anything was painted on the white of `image` inside of `area`, in pixels.
+inline bool isPainted(const QImage& image, QRect area) {
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            if (image.pixelColor(x, y) != QColor(Qt::white))
+                return true;
+    return false;
+}
+
+/// A view that paints nothing and keeps the rectangles and appearances it was painted in.
+struct Witness {
+    struct Seen {
+        std::vector<QRectF> rects;
+        std::vector<ColorScheme> schemes;
+    };
+    std::shared_ptr<Seen> seen = std::make_shared<Seen>();
+
+    void paint(QPainter&, const QRectF& rect, const EnvironmentValues& environment) const {
+        seen->rects.push_back(rect);
+        seen->schemes.push_back(environment.value<ColorSchemeKey>());
+    }
+};
+
+} // namespace kovamo
