@@ -1,5 +1,7 @@
 #include "World.h"
 
+#include "platform/foundation/UserDefaults.h"
+
 #include <QDir>
 #include <gtest/gtest.h>
 #include <unicode/gregocal.h>
@@ -16,6 +18,7 @@ World::World(const char* local, const char* zone, const char* locale) {
         QDir().mkpath(folder);
         qputenv(variable, folder.toUtf8());
     }
+    UserDefaults::reopenStandard();
     setTime(local);
 }
 

@@ -1,25 +1,52 @@
 #include "UserDefaults.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 #include <QStandardPaths>
 #include <QVariant>
 #include <cstdio>
+#include <utility>
 
 namespace kovamo {
+
+namespace {
+
+std::unique_ptr<UserDefaults>& standardInstance() {
+    static auto defaults = std::make_unique<UserDefaults>();
+    return defaults;
+}
+
+// Preferences tell how somebody lives: their folder is made for its owner's eyes alone.
+void makeFolder(const QString& path) {
+    const QFileInfo folder(path);
+    QDir().mkpath(folder.path());
+    QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
+} // namespace
 
 UserDefaults::UserDefaults()
     : m_settings(std::make_unique<QSettings>(
           QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
               QStringLiteral("/Kovamo/Kovamo.conf"),
           QSettings::IniFormat)) {
-    checkStatus("read");
+    // The sections of a file are parsed when first asked for; only then its faults show.
+    (void)m_settings->allKeys();
+    if (m_settings->status() == QSettings::NoError)
+        return;
+    report("read");
+    m_settings->clear();
 }
 
 UserDefaults::~UserDefaults() = default;
 
 UserDefaults& UserDefaults::standard() {
-    static UserDefaults defaults;
-    return defaults;
+    return *standardInstance();
+}
+
+void UserDefaults::reopenStandard() {
+    standardInstance() = std::make_unique<UserDefaults>();
 }
 
 std::int64_t UserDefaults::integer(const QString& key) const {
@@ -43,16 +70,22 @@ void UserDefaults::set(const QString& key, bool value) {
     write(key, value);
 }
 
-void UserDefaults::write(const QString& key, const QVariant& value) {
-    m_settings->setValue(key, value);
-    m_settings->sync();
-    checkStatus("written");
+void UserDefaults::set(const QString& key, const QString& value) {
+    write(key, value);
 }
 
-void UserDefaults::checkStatus(const char* what) const {
+void UserDefaults::write(const QString& key, const QVariant& value) {
+    makeFolder(QFileInfo(m_settings->fileName()).path());
+    m_settings->setValue(key, value);
+    m_settings->sync();
     if (m_settings->status() != QSettings::NoError)
+        report("written");
+}
+
+void UserDefaults::report(const char* trouble) {
+    if (!std::exchange(m_reported, true))
         std::fprintf(stderr, "The preferences in %s cannot be %s.\n",
-                     qPrintable(m_settings->fileName()), what);
+                     qPrintable(m_settings->fileName()), trouble);
 }
 
 } // namespace kovamo

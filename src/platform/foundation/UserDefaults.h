@@ -9,9 +9,10 @@ class QSettings;
 
 namespace kovamo {
 
-/// The user's preferences: `$XDG_CONFIG_HOME/Kovamo/Kovamo.conf`, keys at top level. What cannot
-/// be parsed reads as absent, what cannot be written is dropped; either says so once on standard
-/// error.
+/// The user's preferences: `$XDG_CONFIG_HOME/Kovamo/Kovamo.conf`, keys at top level or under
+/// [General], in a folder for its owner alone. Preferences that cannot be parsed are as if absent,
+/// those that cannot be written are dropped; the first such trouble says so in one line on
+/// standard error.
 class UserDefaults {
   public:
     UserDefaults();
@@ -20,6 +21,9 @@ class UserDefaults {
 
     /// The process's standard preferences, opened at first use.
     static UserDefaults& standard();
+
+    /// Opens the standard preferences afresh, as the next start of the process would.
+    static void reopenStandard();
 
     /// The whole number under `key`; 0 where it is absent or no number of 64 bits.
     [[nodiscard]] std::int64_t integer(const QString& key) const;
@@ -33,12 +37,14 @@ class UserDefaults {
     /// Writes a value under `key` and to the file at once.
     void set(const QString& key, std::int64_t value);
     void set(const QString& key, bool value);
+    void set(const QString& key, const QString& value);
 
   private:
     void write(const QString& key, const QVariant& value);
-    void checkStatus(const char* what) const;
+    void report(const char* trouble);
 
     std::unique_ptr<QSettings> m_settings;
+    bool m_reported = false;
 };
 
 } // namespace kovamo

@@ -1,0 +1,105 @@
+#include "ReviewController.h"
+
+#include "Clock.h"
+#include "MainQueue.h"
+#include "UserDefaults.h"
+
+#include <QDesktopServices>
+#include <QFile>
+#include <QJSEngine>
+#include <QStandardPaths>
+#include <QStringList>
+#include <QUrl>
+#include <algorithm>
+
+namespace kovamo {
+
+namespace {
+
+constexpr int promptsPerYear = 3;
+constexpr std::chrono::days year{365};
+constexpr std::chrono::milliseconds thanksDuration{1800};
+
+// The instants of the latest prompts, in ms since 1970 UTC, with spaces between.
+QString promptTimesKey() {
+    return QStringLiteral("platformReviewPromptTimesKey");
+}
+
+// The prompts of the last 365 days; one ahead of the clock counts, so that setting the clock back
+// gives no new ones.
+QStringList recentPrompts() {
+    const Instant start = Clock::now() - year;
+    QStringList times = UserDefaults::standard()
+                            .string(promptTimesKey())
+                            .value_or(QString())
+                            .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    times.removeIf([start](const QString& time) {
+        return time.toLongLong() <= start.time_since_epoch().count();
+    });
+    return times;
+}
+
+// The desktop's caches of its applications name those that open a kind of address.
+bool hasSoftwareCentre() {
+    const QStringList caches = QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation,
+                                                         QStringLiteral("mimeinfo.cache"));
+    return std::any_of(caches.begin(), caches.end(), [](const QString& path) {
+        QFile cache(path);
+        return cache.open(QFile::ReadOnly) &&
+               cache.readAll().contains("\nx-scheme-handler/appstream=");
+    });
+}
+
+} // namespace
+
+ReviewController& ReviewController::shared() {
+    static ReviewController controller;
+    return controller;
+}
+
+ReviewController* ReviewController::create(QQmlEngine*, QJSEngine*) {
+    ReviewController* controller = &shared();
+    QJSEngine::setObjectOwnership(controller, QJSEngine::CppOwnership);
+    return controller;
+}
+
+void ReviewController::present(QWindow& scene) {
+    QStringList prompts = recentPrompts();
+    if (m_scene || m_sheetPresented || prompts.size() >= promptsPerYear)
+        return;
+    prompts.append(QString::number(Clock::now().time_since_epoch().count()));
+    UserDefaults::standard().set(promptTimesKey(), prompts.join(QLatin1Char(' ')));
+    m_scene = &scene;
+    Q_EMIT changed();
+}
+
+void ReviewController::setSheetPresented(bool presented) {
+    if (presented == m_sheetPresented)
+        return;
+    m_sheetPresented = presented;
+    if (presented)
+        dismiss();
+    Q_EMIT changed();
+}
+
+void ReviewController::rate(int) {
+    if (!m_scene || m_thanking)
+        return;
+    // Without slashes: a host would lose its capital letters.
+    const QUrl page(QStringLiteral("appstream:org.kovamo.Kovamo"));
+    if (hasSoftwareCentre() && QDesktopServices::openUrl(page))
+        return dismiss();
+    m_thanking = true;
+    Q_EMIT changed();
+    MainQueue::asyncAfter(thanksDuration, [this] { dismiss(); });
+}
+
+void ReviewController::dismiss() {
+    if (!m_scene)
+        return;
+    m_scene = nullptr;
+    m_thanking = false;
+    Q_EMIT changed();
+}
+
+} // namespace kovamo
