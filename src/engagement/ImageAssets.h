@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QObject>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+namespace kovamo {
+
+/// The app's pictures, found by name.
+class ImageAssets : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_SINGLETON
+
+  public:
+    /// The address of the picture `name` in the light or dark appearance; empty where there is
+    /// none.
+    Q_INVOKABLE [[nodiscard]] static QUrl url(const QString& name, bool dark);
+};
+
+} // namespace kovamo

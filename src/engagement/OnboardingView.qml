@@ -1,0 +1,108 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Engagement
+import Kovamo.Foundation
+
+/*! The onboarding: pages to swipe, and on them a row of dots above one large button. */
+FocusScope {
+    id: view
+
+    required property OnboardingState onboarding
+
+    focus: true
+
+    Rectangle {
+        anchors.fill: parent
+        color: SystemColors.background
+    }
+    ListView {
+        id: pages
+        anchors.fill: parent
+        boundsBehavior: Flickable.StopAtBounds
+        currentIndex: view.onboarding.currentPage
+        highlightMoveDuration: Motion.duration(300)
+        highlightRangeMode: ListView.StrictlyEnforceRange
+        model: view.onboarding.totalPages
+        objectName: "pages"
+        orientation: ListView.Horizontal
+        snapMode: ListView.SnapOneItem
+
+        delegate: OnboardingPage {
+            required property int index
+
+            description: view.onboarding.pageDescription(index)
+            height: pages.height
+            imageName: view.onboarding.pageImageName(index)
+            width: pages.width
+        }
+
+        onCurrentIndexChanged: view.onboarding.currentPage = currentIndex
+
+        // Another width puts every page elsewhere.
+        onWidthChanged: positionViewAtIndex(currentIndex, ListView.SnapPosition)
+    }
+    Row {
+        Accessible.name: view.onboarding.position
+        Accessible.role: Accessible.Indicator
+        anchors.bottom: button.top
+        anchors.bottomMargin: 5
+        anchors.horizontalCenter: parent.horizontalCenter
+
+        Repeater {
+            model: view.onboarding.totalPages
+
+            delegate: Item {
+                id: dot
+
+                required property int index
+
+                implicitHeight: 16
+                implicitWidth: 16
+
+                Rectangle {
+                    anchors.centerIn: parent
+                    color: dot.index === view.onboarding.currentPage ? SystemColors.blue : SystemColors.gray
+                    height: 10
+                    radius: 5
+                    width: 10
+                }
+            }
+        }
+    }
+    Pressable {
+        id: button
+        Keys.forwardTo: [pages]
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.margins: 40
+        anchors.right: parent.right
+        focus: true
+        font: TextStyles.headline
+        opacity: 1
+        padding: Metrics.padding
+        text: view.onboarding.caption
+
+        background: Item {
+            GradientPanel {
+                anchors.fill: parent
+                anchors.margins: -shadowExtent
+                leadingColor: SystemColors.blue
+                trailingColor: SystemColors.purple
+            }
+            FocusRing {
+                control: button
+                radius: 22
+            }
+        }
+        contentItem: PlainText {
+            color: SystemColors.white
+            font: button.font
+            horizontalAlignment: Text.AlignHCenter
+            opacity: button.pressed ? 0.6 : 1
+            text: button.text
+        }
+
+        onClicked: view.onboarding.next()
+    }
+}

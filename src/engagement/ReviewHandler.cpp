@@ -1,0 +1,50 @@
+#include "ReviewHandler.h"
+
+#include "platform/foundation/Bundle.h"
+#include "platform/foundation/CheckedArithmetic.h"
+#include "platform/foundation/MainQueue.h"
+#include "platform/foundation/ReviewController.h"
+#include "platform/foundation/Scenes.h"
+#include "platform/foundation/UserDefaults.h"
+
+#include <algorithm>
+
+namespace kovamo {
+
+namespace {
+
+constexpr std::int64_t startUpsBeforeAsking = 4;
+constexpr std::chrono::seconds delay{2};
+
+QString bundleVersion() {
+    const QVariant version = Bundle::main().infoDictionary().value(kCFBundleVersionKey);
+    if (version.typeId() != QMetaType::QString)
+        fatalError(QStringLiteral("Expected to find a bundle version in the info dictionary"));
+    return version.toString();
+}
+
+void requestReview() {
+    const QList<Scene> scenes = connectedScenes();
+    const auto active = std::find_if(scenes.begin(), scenes.end(), [](const Scene& scene) {
+        return scene.activationState == ActivationState::foregroundActive;
+    });
+    if (active != scenes.end() && active->window)
+        ReviewController::requestReview(*active->window);
+}
+
+} // namespace
+
+void ReviewHandler::requestReviewIfAppropriate() {
+    const QString countKey = QStringLiteral("appStartUpsCountKey");
+    UserDefaults& defaults = UserDefaults::standard();
+    const std::int64_t count = checkedAdd(defaults.integer(countKey), std::int64_t{1});
+    defaults.set(countKey, count);
+
+    const QString version = bundleVersion();
+    // Nothing writes this key: how often a prompt shows is throttled by the platform alone.
+    const auto lastPrompted = defaults.string(QStringLiteral("lastVersionPromptedForReviewKey"));
+    if (count >= startUpsBeforeAsking && lastPrompted != version)
+        MainQueue::asyncAfter(delay, requestReview);
+}
+
+} // namespace kovamo

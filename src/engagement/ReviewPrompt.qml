@@ -1,0 +1,94 @@
+import QtQuick
+import QtQuick.Templates as T
+import Kovamo.Controls
+import Kovamo.Engagement
+import Kovamo.Foundation
+
+/*! The platform's rating prompt: a small card in the middle of its window, beside which the app
+    goes on. The shell keeps one in its window and says whether a sheet is up. */
+T.Popup {
+    id: prompt
+
+    required property bool sheetPresented
+
+    anchors.centerIn: T.Overlay.overlay
+    bottomPadding: 4
+    closePolicy: T.Popup.CloseOnEscape
+    height: column.implicitHeight + topPadding + bottomPadding
+    horizontalPadding: Metrics.padding
+    topPadding: 20
+    visible: ReviewController.scene !== null
+    width: 270
+
+    background: Item {
+        GradientPanel {
+            anchors.fill: parent
+            anchors.margins: -shadowExtent
+            cornerRadius: 14
+            leadingColor: SystemColors.cell
+            shadowExtent: 24
+            trailingColor: SystemColors.cell
+        }
+    }
+    enter: Transition {
+        NumberAnimation {
+            duration: Motion.duration(200)
+            from: 0
+            property: "opacity"
+            to: 1
+        }
+    }
+
+    onClosed: ReviewController.dismiss()
+
+    Column {
+        id: column
+        Accessible.name: title.text
+        Accessible.role: Accessible.Dialog
+        spacing: 8
+        width: prompt.availableWidth
+
+        Image {
+            Accessible.ignored: true
+            anchors.horizontalCenter: parent.horizontalCenter
+            source: ImageAssets.url("appicon", false)
+            sourceSize.height: 64
+            sourceSize.width: 64
+        }
+        PlainText {
+            id: title
+            font: TextStyles.headline
+            horizontalAlignment: Text.AlignHCenter
+            text: ReviewController.thanking ? "Thank you!" : "Enjoying Kovamo?"
+            width: parent.width
+        }
+        RatingRow {
+            anchors.horizontalCenter: parent.horizontalCenter
+            enabled: !ReviewController.thanking
+
+            onChosen: stars => ReviewController.rate(stars)
+        }
+        Divider {
+            width: parent.width
+        }
+        Pressable {
+            id: notNow
+            text: "Not Now"
+            width: parent.width
+
+            contentItem: PlainText {
+                color: SystemColors.accent
+                horizontalAlignment: Text.AlignHCenter
+                text: notNow.text
+                verticalAlignment: Text.AlignVCenter
+            }
+
+            onClicked: ReviewController.dismiss()
+        }
+    }
+    Binding {
+        property: "sheetPresented"
+        target: ReviewController
+        value: prompt.sheetPresented
+    }
+}
