@@ -12,8 +12,7 @@ ContentView::ContentView(ManagedObjectContext& viewContext, std::function<void()
     connect(&m_transactionContainer, &TransactionContainer::objectWillChange, this,
             &ContentView::layOutLater);
     // A deletion posts no notification: the screen sees it in the store itself.
-    connect(&viewContext, &ManagedObjectContext::objectsDidChange, this,
-            &ContentView::layOutLater);
+    connect(&viewContext, &ManagedObjectContext::objectsDidChange, this, &ContentView::layOutLater);
     NotificationCenter::defaultCenter().addObserver(transactionRefresh(), this,
                                                     [this](const QVariant&) { load(); });
 }
@@ -70,6 +69,7 @@ void ContentView::layOut() {
         return;
     m_hasTransactions = isAnythingStored();
     m_banner = Banner(m_viewContext, m_selectedTimeFrame);
+    m_chart = TransactionChart(m_viewContext, m_selectedTimeFrame);
     auto container = std::make_unique<TransactionContainer>();
     container->fetchTransactions(m_selectedTimeFrame, m_viewContext);
     m_filteredList.setTransactionContainer(std::move(container));

@@ -2,6 +2,7 @@
 
 #include "Banner.h"
 #include "FilteredList.h"
+#include "TransactionChart.h"
 #include "editing/AddTransactionView.h"
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
@@ -41,6 +42,7 @@ class ContentView : public QObject {
     Q_PROPERTY(bool hasTransactions READ hasTransactions NOTIFY laidOut)
     Q_PROPERTY(bool hasPeriod READ hasPeriod NOTIFY laidOut)
     Q_PROPERTY(kovamo::Banner banner READ banner NOTIFY laidOut)
+    Q_PROPERTY(kovamo::TransactionChart chart READ chart NOTIFY laidOut)
     Q_PROPERTY(kovamo::FilteredList* filteredList READ filteredList CONSTANT)
     Q_PROPERTY(kovamo::AddTransactionView* addForm READ addForm NOTIFY showAddTransactionChanged)
     Q_PROPERTY(kovamo::TransactionsView* allTransactions READ allTransactions NOTIFY
@@ -70,6 +72,7 @@ class ContentView : public QObject {
     }
 
     [[nodiscard]] const Banner& banner() const { return m_banner; }
+    [[nodiscard]] const TransactionChart& chart() const { return m_chart; }
     [[nodiscard]] FilteredList* filteredList() { return &m_filteredList; }
 
     /// The form and the screen behind the sheets, from the moment they are shown until they are
@@ -104,6 +107,7 @@ class ContentView : public QObject {
     bool m_needsLayout = false;
     TransactionContainer m_transactionContainer;
     Banner m_banner;
+    TransactionChart m_chart;
     FilteredList m_filteredList;
     std::unique_ptr<AddTransactionView> m_addForm;
     std::unique_ptr<TransactionsView> m_allTransactions;

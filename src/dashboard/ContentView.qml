@@ -84,6 +84,10 @@ FocusScope {
         delegate: FilteredListRow {
             width: list.width
         }
+        header: TransactionChart {
+            chart: screen.content.chart
+            width: list.width
+        }
     }
     ActionButton {
         anchors.bottom: picker.top

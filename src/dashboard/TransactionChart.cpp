@@ -1,0 +1,132 @@
+#include "TransactionChart.h"
+
+#include "charts/Chart.h"
+#include "charts/ColumnChartStyle.h"
+#include "charts/ColumnLayout.h"
+#include "editing/TransactionsView.h"
+#include "platform/foundation/Formatters.h"
+#include "platform/views/ShapeViews.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kovamo {
+
+namespace {
+
+constexpr qsizetype minimumColumns = 15;
+constexpr double columnSpacing = 2;
+constexpr double columnsHeight = 200;
+constexpr double padding = 20;
+constexpr double cornerRadius = 10;
+
+AnyView layer(const QList<double>& data, SystemColor top) {
+    const LinearGradient gradient{{{top}, {SystemColor::yellow}}};
+    const ColumnChartStyle style{FilledShape{Capsule{}, gradient}, columnSpacing};
+    return ClippedView{
+        PaddedView{chartStyle(Chart(data), style), QMarginsF(padding, padding, padding, padding)},
+        RoundedRectangle{cornerRadius, true}};
+}
+
+} // namespace
+
+TransactionChart::TransactionChart(ManagedObjectContext& context, TimeFrame timeFrame)
+    : viewContext(&context), selectedTimeFrame(timeFrame) {
+    const Period period = periodBounds(timeFrame);
+    startDate = period.start;
+    endDate = period.end;
+    const QString year = QStringLiteral("y");
+    if (localizedDateText(startDate, year) != localizedDateText(endDate, year))
+        stackDateFormat = QStringLiteral("MM/dd/yy");
+    gatherTransactions(timeFrame, context, [this](TransactionPresentation presentation) {
+        transactions.push_back(std::move(presentation));
+    });
+    std::ranges::stable_sort(transactions, {}, [](const TransactionPresentation& transaction) {
+        return required(transaction.id, transaction.startDate, "startDate");
+    });
+    scaleAmounts();
+}
+
+void TransactionChart::scaleAmounts() {
+    const auto columns = std::max(minimumColumns, transactions.size());
+    positiveChartData.fill(0, columns);
+    negativeChartData.fill(0, columns);
+    if (transactions.isEmpty())
+        return;
+    const double maxAmount =
+        std::ranges::max(transactions, {}, &TransactionPresentation::amount).amount;
+    for (qsizetype i = 0; i < transactions.size(); ++i) {
+        const TransactionPresentation& transaction = std::as_const(transactions)[i];
+        (transaction.isPositive ? positiveChartData : negativeChartData)[i] =
+            transaction.amount / maxAmount;
+    }
+}
+
+QString TransactionChart::title() const {
+    switch (selectedTimeFrame) {
+    case 1:
+        return QStringLiteral("Current Month");
+    case 2:
+        return QStringLiteral("3 Months");
+    case 3:
+        return QStringLiteral("12 Months");
+    default:
+        return {};
+    }
+}
+
+QString TransactionChart::dates() const {
+    return dateText(startDate, stackDateFormat) + u" - " + dateText(endDate, stackDateFormat);
+}
+
+QString TransactionChart::range() const {
+    return u"**" + dates() + u"**";
+}
+
+QString TransactionChart::sentence() const {
+    if (!isShown())
+        return {};
+    const auto earnings =
+        std::ranges::count(transactions, true, &TransactionPresentation::isPositive);
+    const TransactionPresentation& largest =
+        std::ranges::max(transactions, {}, &TransactionPresentation::amount);
+    return QStringLiteral("%1, %2: %3 earnings, %4 spendings, largest amount %5")
+        .arg(title(), dates(), numberText(earnings), numberText(transactions.size() - earnings),
+             formattedAmount(largest.amount));
+}
+
+AnyView TransactionChart::view() const {
+    return ZStack{
+        {layer(negativeChartData, SystemColor::red), layer(positiveChartData, SystemColor::green)}};
+}
+
+double TransactionChart::height() {
+    return columnsHeight + 2 * padding;
+}
+
+int TransactionChart::columnAt(double x, double width) const {
+    const auto columns = static_cast<std::size_t>(positiveChartData.size());
+    const auto column = kovamo::columnAt(x - padding, columns, columnSpacing, width - 2 * padding);
+    return column && *column < static_cast<std::size_t>(transactions.size())
+               ? static_cast<int>(*column)
+               : -1;
+}
+
+double TransactionChart::columnCenter(int column, double width) const {
+    const auto [columnWidth, gap] = columnMetrics(
+        static_cast<std::size_t>(positiveChartData.size()), columnSpacing, width - 2 * padding);
+    return padding + column * (columnWidth + gap) + columnWidth / 2;
+}
+
+QString TransactionChart::columnText(int column) const {
+    if (column < 0 || column >= count())
+        return {};
+    const TransactionPresentation& transaction = transactions[column];
+    return QStringLiteral("%1\n%2\n%3")
+        .arg(required(transaction.id, transaction.title, "title"),
+             signedAmount(transaction.isPositive, transaction.amount),
+             localizedDateText(required(transaction.id, transaction.startDate, "startDate"),
+                               QStringLiteral("yMMMd")));
+}
+
+} // namespace kovamo

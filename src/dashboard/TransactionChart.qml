@@ -1,0 +1,99 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Dashboard
+import Kovamo.Foundation
+import Kovamo.Views
+
+/*! The chart with its title and range. Held, hovered or walked along by the arrow keys, it shows
+    what stands behind a column in a bubble. */
+FocusScope {
+    id: row
+
+    required property transactionChart chart
+    /*! The column whose bubble shows; -1 for none. */
+    property int column: -1
+
+    function step(by: int) {
+        column = Math.max(0, Math.min(chart.count - 1, column + by));
+    }
+
+    implicitHeight: chart.isShown ? words.height + plot.height + Metrics.padding : 0
+    visible: chart.isShown
+
+    onActiveFocusChanged: column = -1
+    onChartChanged: column = -1
+
+    Column {
+        id: words
+
+        anchors.left: parent.left
+        anchors.margins: Metrics.padding
+        anchors.right: parent.right
+        anchors.top: parent.top
+        spacing: Metrics.step
+
+        PlainText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            font: TextStyles.headline
+            text: row.chart.title
+            visible: text !== ""
+        }
+        EmphasizedText {
+            anchors.horizontalCenter: parent.horizontalCenter
+            color: SystemColors.gray
+            font: TextStyles.bold(TextStyles.subheadline)
+            markup: row.chart.range
+        }
+    }
+    ViewItem {
+        id: plot
+
+        Accessible.description: bubble.text
+        Accessible.focusable: true
+        Accessible.name: row.chart.sentence
+        Accessible.role: Accessible.Chart
+        Keys.onEscapePressed: event => {
+            event.accepted = row.column >= 0;
+            row.column = -1;
+        }
+        Keys.onLeftPressed: row.step(LayoutMirroring.enabled ? 1 : -1)
+        Keys.onRightPressed: row.step(LayoutMirroring.enabled ? -1 : 1)
+        activeFocusOnTab: true
+        anchors.top: words.bottom
+        focus: true
+        height: row.chart.height
+        view: row.chart.view
+        width: parent.width
+
+        TapHandler {
+            id: hold
+
+            longPressThreshold: 0.3
+
+            onLongPressed: row.column = row.chart.columnAt(point.position.x, plot.width)
+            onPressedChanged: if (!pressed)
+                row.column = -1
+        }
+        HoverHandler {
+            id: hover
+
+            acceptedDevices: PointerDevice.Mouse
+
+            onHoveredChanged: row.column = -1
+            onPointChanged: if (hovered)
+                row.column = row.chart.columnAt(point.position.x, plot.width)
+        }
+        FocusRing {
+            control: plot
+            distance: -2
+        }
+    }
+    ChartBubble {
+        id: bubble
+
+        center: row.chart.columnCenter(row.column, plot.width)
+        text: row.chart.columnText(row.column)
+        width: Math.min(implicitWidth, row.width)
+        y: plot.y - height / 2 + Metrics.padding
+    }
+}
