@@ -9,6 +9,7 @@ constexpr const char* sheet = R"(
     property bool flag: false
     property bool stubborn: false
     BarButton { objectName: 'button'; symbol: 'plus'; focus: true }
+    SwipeRow { y: 500; width: 390; onClicked: log += 'behind ' }
     Sheet {
         objectName: 'sheet'; presented: flag
         onDismissed: { log += 'dismissed '; flag = stubborn; }
@@ -41,6 +42,18 @@ TEST(Sheet, OpensByItsFlagAndGivesTheFocusBack) {
     EXPECT_TRUE(stage.item("button")->hasActiveFocus());
     stage.drag({200, 843}, {0, -400});
     EXPECT_EQ(stage.position(), 0) << "a drag from the edge opened it";
+}
+
+TEST(Sheet, LeavesNothingToWhatIsBehind) {
+    SheetStage stage;
+    stage.click({200, 520});
+    stage.drag({200, 520}, {-300, 0});
+    stage.click({200, 60});
+    EXPECT_EQ(stage.log(), "");
+    for (int tabs = 0; tabs < 4; ++tabs) {
+        stage.press(Qt::Key_Tab);
+        EXPECT_TRUE(stage.item("stack")->isAncestorOf(stage.window()->activeFocusItem()));
+    }
 }
 
 TEST(Sheet, IsDraggedByItsBar) {
