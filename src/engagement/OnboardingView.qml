@@ -91,7 +91,7 @@ FocusScope {
                 trailingColor: SystemColors.purple
             }
             FocusRing {
-                control: button
+                visible: button.visualFocus
                 radius: 22
             }
         }
