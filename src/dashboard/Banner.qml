@@ -66,7 +66,7 @@ Item {
 
         Accessible.ignored: true
         color: SystemColors.white
-        font: TextStyles.bold(TextStyles.largeTitle)
         markup: "**" + words + "**"
+        textStyle: TextStyles.largeTitle
     }
 }

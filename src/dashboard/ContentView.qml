@@ -87,6 +87,9 @@ FocusScope {
         header: TransactionChart {
             chart: screen.content.chart
             width: list.width
+
+            // A header that grows stays above the top of the view unless it is asked in.
+            onHeightChanged: list.positionViewAtBeginning()
         }
     }
     ActionButton {

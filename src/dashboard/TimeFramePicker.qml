@@ -26,45 +26,56 @@ Column {
         Repeater {
             model: picker.choices
 
-            Item {
+            Focusable {
                 id: choice
 
                 required property int index
                 required property timeFrameChoice modelData
+                readonly property bool chosen: modelData.value === picker.selected
 
-                height: Math.max(50, button.implicitHeight)
+                function pick() {
+                    picker.picked(modelData.value);
+                }
+
+                Accessible.checkable: true
+                Accessible.checked: chosen
+                Accessible.name: caption.text
+                Accessible.role: Accessible.PageTab
+                Keys.onEnterPressed: pick()
+                Keys.onReturnPressed: pick()
+                Keys.onSpacePressed: pick()
+                activeFocusOnTab: true
+                height: Math.max(50, caption.implicitHeight + Metrics.padding)
                 width: row.width / picker.choices.length
+
+                Accessible.onPressAction: pick()
 
                 Divider {
                     height: 50
                     vertical: true
                     visible: choice.index > 0
                 }
-                Pressable {
-                    id: button
+                EmphasizedText {
+                    id: caption
 
-                    Accessible.checkable: true
-                    Accessible.checked: choice.modelData.value === picker.selected
-                    Accessible.role: Accessible.PageTab
+                    Accessible.ignored: true
                     anchors.fill: parent
-                    text: caption.text
+                    color: choice.chosen ? SystemColors.label : SystemColors.gray
+                    horizontalAlignment: Text.AlignHCenter
+                    markup: choice.modelData.label
+                    opacity: tap.pressed ? 0.35 : 1
+                    verticalAlignment: Text.AlignVCenter
+                }
+                TapHandler {
+                    id: tap
 
-                    contentItem: EmphasizedText {
-                        id: caption
+                    gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                        Accessible.ignored: true
-                        color: choice.modelData.value === picker.selected ? SystemColors.label : SystemColors.gray
-                        horizontalAlignment: Text.AlignHCenter
-                        markup: choice.modelData.label
-                        verticalAlignment: Text.AlignVCenter
-                    }
-
-                    onClicked: picker.picked(choice.modelData.value)
-
-                    FocusRing {
-                        distance: -2
-                        visible: button.visualFocus
-                    }
+                    onTapped: choice.pick()
+                }
+                FocusRing {
+                    distance: -2
+                    visible: choice.visualFocus
                 }
             }
         }

@@ -41,11 +41,11 @@ FocusScope {
         EmphasizedText {
             anchors.horizontalCenter: parent.horizontalCenter
             color: SystemColors.gray
-            font: TextStyles.bold(TextStyles.subheadline)
             markup: row.chart.range
+            textStyle: TextStyles.subheadline
         }
     }
-    ViewItem {
+    Focusable {
         id: plot
 
         Accessible.description: bubble.text
@@ -62,9 +62,12 @@ FocusScope {
         anchors.top: words.bottom
         focus: true
         height: row.chart.height
-        view: row.chart.view
         width: parent.width
 
+        ViewItem {
+            anchors.fill: parent
+            view: row.chart.view
+        }
         TapHandler {
             id: hold
 
@@ -84,8 +87,8 @@ FocusScope {
                 row.column = row.chart.columnAt(point.position.x, plot.width)
         }
         FocusRing {
-            control: plot
             distance: -2
+            visible: plot.visualFocus
         }
     }
     ChartBubble {
