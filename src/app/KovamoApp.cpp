@@ -1,22 +1,19 @@
 #include "KovamoApp.h"
 
-#include "dashboard/ContentView.h"
-#include "platform/foundation/Formatters.h"
+#include "RootView.h"
 
 #include <QQmlApplicationEngine>
+#include <QQuickWindow>
 
 namespace kovamo {
 
-void KovamoApp::showWindow(QQmlApplicationEngine& engine, ContentView& content) {
-    QStringList digits;
-    for (int digit = 0; digit <= 9; ++digit)
-        digits.append(digitText(digit));
-    engine.addImportPath(QStringLiteral(":/qt/qml"));
-    engine.setInitialProperties({{QStringLiteral("content"), QVariant::fromValue(&content)},
-                                 {QStringLiteral("digits"), digits}});
+QQuickWindow& KovamoApp::showWindow(QQmlApplicationEngine& engine, RootView& root) {
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.setInitialProperties({{QStringLiteral("root"), QVariant::fromValue(&root)}});
     engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Kovamo/App/Main.qml")));
     if (engine.rootObjects().isEmpty())
         fatalError(QStringLiteral("The window cannot be built"));
+    return *qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
 }
 
 } // namespace kovamo

@@ -3,18 +3,19 @@
 #include "model/PersistenceController.h"
 
 class QQmlApplicationEngine;
+class QQuickWindow;
 
 namespace kovamo {
 
-class ContentView;
+class RootView;
 
 /// The app: the store, taken at its creation, and one window.
 struct KovamoApp {
     PersistenceController persistenceController = PersistenceController::shared();
 
-    /// Loads the window's QML into `engine` with `content` as its main screen; the process cannot
-    /// go on without it, so a window that does not load is a fatal error.
-    static void showWindow(QQmlApplicationEngine& engine, ContentView& content);
+    /// Loads the window that shows `root` into `engine`. A window that does not load is a fatal
+    /// error.
+    static QQuickWindow& showWindow(QQmlApplicationEngine& engine, RootView& root);
 };
 
 } // namespace kovamo

@@ -1,17 +1,20 @@
 import QtQuick
+import Kovamo.App
 import Kovamo.Controls
 import Kovamo.Dashboard
+import Kovamo.Engagement
 import Kovamo.Foundation
 
 /*! The app's one window. */
 Window {
     id: window
 
-    required property ContentState content
-    required property list<string> digits
+    required property RootState root
     /*! Whether things change at once instead of moving. */
     property bool reducedMotion: false
 
+    LayoutMirroring.childrenInherit: true
+    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
     color: SystemColors.background
     height: 844
     minimumHeight: 480
@@ -30,10 +33,27 @@ Window {
 
         onActivated: Qt.quit()
     }
-    ContentView {
+    Loader {
         anchors.fill: parent
-        content: window.content
-        digits: window.digits
         focus: true
+        sourceComponent: window.root.onboardingFinished ? mainScreen : onboarding
+    }
+    Component {
+        id: onboarding
+
+        OnboardingView {
+            onboarding: window.root.onboarding
+        }
+    }
+    Component {
+        id: mainScreen
+
+        ContentView {
+            content: window.root.content
+            digits: window.root.digits
+        }
+    }
+    ReviewPrompt {
+        sheetPresented: window.root.content.showAddTransaction || window.root.content.showTransactions
     }
 }

@@ -16,7 +16,7 @@ std::optional<ColorScheme> scheme(const QString& name) {
 
 QString usage() {
     return QStringLiteral("Usage: kovamo [--demo] [--appearance light|dark] [--pictures FOLDER] "
-                          "[--version] [--help]");
+                          "[--gallery] [--version] [--help]");
 }
 
 std::optional<Options> parsedOptions(const QStringList& arguments) {
@@ -25,6 +25,8 @@ std::optional<Options> parsedOptions(const QStringList& arguments) {
         const bool hasValue = argument + 1 != arguments.end();
         if (*argument == u"--demo")
             options.isDemo = true;
+        else if (*argument == u"--gallery")
+            options.isGallery = true;
         else if (*argument == u"--version")
             options.wantsVersion = true;
         else if (*argument == u"--help")

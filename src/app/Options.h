@@ -11,6 +11,8 @@ namespace kovamo {
 struct Options {
     /// Sample data in a throwaway store, nothing of the user's touched.
     bool isDemo = false;
+    /// The gallery of shapes, styles and charts in place of the app.
+    bool isGallery = false;
     /// The appearance to use in place of the desktop's.
     std::optional<ColorScheme> appearance;
     /// A folder to draw pictures of all screens into, in place of showing them.

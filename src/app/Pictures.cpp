@@ -1,6 +1,6 @@
 #include "Pictures.h"
 
-#include "dashboard/ContentView.h"
+#include "RootView.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -28,11 +28,17 @@ struct Picture {
 
 } // namespace
 
-bool drawPictures(QQuickWindow& window, ContentView& content, const QString& folder) {
+bool drawPictures(QQuickWindow& window, RootView& root, const QString& folder) {
+    OnboardingView& onboarding = *root.onboarding();
+    ContentView& content = *root.content();
     QDir().mkpath(folder);
     window.setProperty("reducedMotion", true);
     const Picture pictures[] = {
-        {"current-month", [] {}},
+        {"onboarding-1", [] {}},
+        {"onboarding-2", [&] { onboarding.next(); }},
+        {"onboarding-3", [&] { onboarding.next(); }},
+        {"onboarding-4", [&] { onboarding.next(); }},
+        {"current-month", [&] { onboarding.next(); }},
         {"three-months", [&] { content.select(2); }},
         {"twelve-months", [&] { content.select(3); }},
         {"new-transaction", [&] { content.setShowAddTransaction(true); }},

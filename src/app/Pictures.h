@@ -6,10 +6,10 @@ class QQuickWindow;
 
 namespace kovamo {
 
-class ContentView;
+class RootView;
 
 /// Draws every screen of the app in `window` to a PNG in `folder` and prints the path of each.
 /// Returns whether all could be written.
-bool drawPictures(QQuickWindow& window, ContentView& content, const QString& folder);
+bool drawPictures(QQuickWindow& window, RootView& root, const QString& folder);
 
 } // namespace kovamo

@@ -1,8 +1,11 @@
 #include "KovamoApp.h"
 #include "Options.h"
 #include "Pictures.h"
+#include "RootView.h"
 #include "SampleData.h"
-#include "dashboard/ContentView.h"
+#include "platform/foundation/DesktopSettings.h"
+#include "platform/foundation/Locale.h"
+#include "platform/foundation/UserDefaults.h"
 
 #include <QDir>
 #include <QFontInfo>
@@ -40,6 +43,13 @@ void preferColourEmoji() {
     QGuiApplication::setFont(font);
 }
 
+int showGallery() {
+    QQmlApplicationEngine engine;
+    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
+    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Kovamo/Gallery/GalleryWindow.qml")));
+    return engine.rootObjects().isEmpty() ? 1 : QGuiApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -72,18 +82,26 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kovamo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.kovamo.Kovamo"));
 
+    QGuiApplication::setLayoutDirection(dateLocale().isRightToLeft() ? Qt::RightToLeft
+                                                                     : Qt::LeftToRight);
+    if (options->appearance)
+        SystemColors::shared().setColorScheme(*options->appearance);
+    const DesktopSettings desktop(!options->appearance);
+
+    if (options->isGallery)
+        return showGallery();
     const KovamoApp app;
     ManagedObjectContext& viewContext = app.persistenceController.container->viewContext();
     if (scratch)
         addSampleData(viewContext);
-    if (options->appearance)
-        SystemColors::shared().setColorScheme(*options->appearance);
-    ContentView content(viewContext);
+    if (options->isDemo)
+        UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
+    RootView root(viewContext);
     QQmlApplicationEngine engine;
-    KovamoApp::showWindow(engine, content);
-    if (options->pictures) {
-        auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
-        return drawPictures(*window, content, *options->pictures) ? 0 : 1;
-    }
+    QQuickWindow& window = KovamoApp::showWindow(engine, root);
+    if (options->pictures)
+        return drawPictures(window, root, *options->pictures) ? 0 : 1;
+    const auto followMotion = [&] { window.setProperty("reducedMotion", desktop.reducedMotion()); };
+    QObject::connect(&desktop, &DesktopSettings::reducedMotionChanged, &window, followMotion);
     return QGuiApplication::exec();
 }

@@ -1,0 +1,39 @@
+#include "RootView.h"
+
+#include "engagement/ReviewHandler.h"
+#include "platform/foundation/Formatters.h"
+#include "platform/foundation/UserDefaults.h"
+
+namespace kovamo {
+
+namespace {
+
+constexpr int onboardingPages = 4;
+
+} // namespace
+
+RootView::RootView(ManagedObjectContext& viewContext)
+    : m_onboardingFinished(UserDefaults::standard().boolean(onboardingFinishedKey())),
+      m_onboarding(onboardingPages),
+      m_content(viewContext, &ReviewHandler::requestReviewIfAppropriate) {
+    connect(&m_onboarding, &OnboardingView::finished, this, &RootView::finishOnboarding);
+}
+
+QString RootView::onboardingFinishedKey() {
+    return QStringLiteral("onboardingFinished");
+}
+
+QStringList RootView::digits() {
+    QStringList digits;
+    for (int digit = 0; digit <= 9; ++digit)
+        digits.append(digitText(digit));
+    return digits;
+}
+
+void RootView::finishOnboarding() {
+    m_onboardingFinished = true;
+    UserDefaults::standard().set(onboardingFinishedKey(), true);
+    Q_EMIT onboardingFinishedChanged();
+}
+
+} // namespace kovamo

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "dashboard/ContentView.h"
+#include "engagement/OnboardingView.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QtQml/qqmlregistration.h>
+
+namespace kovamo {
+
+/// What the window shows: the onboarding until the user has finished it once, the main screen from
+/// then on, also at later starts.
+class RootView : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(RootState)
+    QML_UNCREATABLE("Made by the app")
+    Q_PROPERTY(bool onboardingFinished READ onboardingFinished NOTIFY onboardingFinishedChanged)
+    Q_PROPERTY(kovamo::OnboardingView* onboarding READ onboarding CONSTANT)
+    Q_PROPERTY(kovamo::ContentView* content READ content CONSTANT)
+    Q_PROPERTY(QStringList digits READ digits CONSTANT)
+
+  public:
+    /// Requires: `viewContext` outlives the view.
+    explicit RootView(ManagedObjectContext& viewContext);
+
+    [[nodiscard]] bool onboardingFinished() const { return m_onboardingFinished; }
+    [[nodiscard]] OnboardingView* onboarding() { return &m_onboarding; }
+    [[nodiscard]] ContentView* content() { return &m_content; }
+
+    /// The key of the preferences' flag that the onboarding was finished.
+    [[nodiscard]] static QString onboardingFinishedKey();
+
+    /// The digits 0 to 9 as the user's locale writes them.
+    [[nodiscard]] static QStringList digits();
+
+  Q_SIGNALS:
+    void onboardingFinishedChanged();
+
+  private:
+    void finishOnboarding();
+
+    bool m_onboardingFinished;
+    OnboardingView m_onboarding;
+    ContentView m_content;
+};
+
+} // namespace kovamo

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "SystemColors.h"
+
+#include <QDBusVariant>
+#include <QObject>
+#include <QString>
+
+namespace kovamo {
+
+/// What the user has set for all apps, asked of the desktop's settings portal and followed while
+/// the app runs. Without a portal everything keeps its default.
+class DesktopSettings : public QObject {
+    Q_OBJECT
+    /// Whether things are to change at once instead of moving.
+    Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
+
+  public:
+    /// Puts the desktop's appearance into the palette, unless `followsAppearance` is false. Asks
+    /// without waiting: the answers come in the event loop.
+    explicit DesktopSettings(bool followsAppearance);
+
+    [[nodiscard]] bool reducedMotion() const { return m_reducedMotion; }
+
+  Q_SIGNALS:
+    void reducedMotionChanged();
+
+  private Q_SLOTS:
+    void take(const QString& group, const QString& key, const QDBusVariant& value);
+
+  private:
+    void ask(const QString& group, const QString& key);
+
+    bool m_followsAppearance;
+    bool m_reducedMotion = false;
+};
+
+} // namespace kovamo
