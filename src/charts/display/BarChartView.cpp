@@ -1,10 +1,9 @@
 #include "BarChartView.h"
 
-#include "charts/AxisLabels.h"
+#include "PlotLabels.h"
 #include "charts/BarChartStyle.h"
 #include "charts/Chart.h"
 #include "platform/views/ShapeViews.h"
-#include "platform/views/Text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -35,11 +34,9 @@ struct BarsPlot {
     BarChartView chart;
 
     void paint(QPainter& painter, const QRectF& rect, const EnvironmentValues& environment) const {
-        AxisLabels axis{Qt::Vertical, {}};
-        for (const QString& label : chart.labels)
-            axis.labels.emplace_back(Text{label, Color{SystemColor::secondaryLabel}, 11});
-        std::ranges::reverse(axis.labels);
-        axis.paint(painter, {rect.x(), rect.y(), labelWidth, rect.height()}, environment);
+        const std::vector<QString> upwards(chart.labels.rbegin(), chart.labels.rend());
+        plotLabels(Qt::Vertical, upwards, rect.height(), 14)
+            .paint(painter, {rect.x(), rect.y(), labelWidth, rect.height()}, environment);
         const FilledShape bar{RoundedRectangle{4}, chart.series.color};
         chartStyle(barsChart(chart.series), BarChartStyle{bar, chart.spacing})
             .paint(painter, barsRect(rect, !chart.labels.empty()), environment);

@@ -69,8 +69,7 @@ class AnyDisplayChart {
     AnyDisplayChart() = default;
 
     template<class C>
-        requires(!std::same_as<C, AnyDisplayChart> && DisplayChart<C>)
-    AnyDisplayChart(const C& chart)
+    requires(!std::same_as<C, AnyDisplayChart> && DisplayChart<C>) AnyDisplayChart(const C& chart)
         : m_title(chart.title), m_plot(chart.plot()),
           m_reading(std::make_shared<const ReadingAt>(
               [chart](QPointF place, QSizeF size) { return chart.reading(place, size); })) {

@@ -1,11 +1,10 @@
 #include "LineChartViews.h"
 
+#include "PlotLabels.h"
 #include "charts/AreaChartStyle.h"
-#include "charts/AxisLabels.h"
 #include "charts/Chart.h"
 #include "charts/LineChartStyle.h"
 #include "platform/views/ShapeViews.h"
-#include "platform/views/Text.h"
 #include "shapes/GridPattern.h"
 
 #include <algorithm>
@@ -57,10 +56,8 @@ struct LinesPlot {
         const QRectF grid(rect.x(), lines.y(), rect.width(), lines.height());
         StrokedShape{GridPattern{0, 5, 0}, Color{SystemColor::separator}, StrokeStyle{0.5}}.paint(
             painter, grid, environment);
-        AxisLabels axis;
-        for (const QString& label : labels)
-            axis.labels.emplace_back(Text{label, Color{SystemColor::secondaryLabel}, 11});
-        axis.paint(painter, {rect.x(), lines.bottom(), rect.width(), labelHeight}, environment);
+        plotLabels(Qt::Horizontal, labels, rect.width(), 28)
+            .paint(painter, {rect.x(), lines.bottom(), rect.width(), labelHeight}, environment);
         ZStack{layers}.paint(painter, lines, environment);
     }
 };
