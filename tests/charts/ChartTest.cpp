@@ -14,15 +14,12 @@ namespace {
 
 const QSize size(100, 50);
 
-/// Somebody else's style: it fills everything with its colour, once there is data.
+/// Somebody else's style: it fills everything with its colour.
 struct FloodStyle {
     SystemColor color;
-    std::shared_ptr<int> made = std::make_shared<int>(0);
 
-    [[nodiscard]] AnyView makeBody(const ChartStyleConfiguration& configuration) const {
-        ++*made;
-        return configuration.dataMatrix.empty() ? AnyView()
-                                                : FilledShape{Rectangle{}, Color{color}};
+    [[nodiscard]] auto makeBody(const ChartStyleConfiguration&) const {
+        return FilledShape{Rectangle{}, Color{color}};
     }
 };
 
@@ -46,13 +43,9 @@ TEST(ChartData, IsTakenAsItIs) {
 }
 
 TEST(ErasedStyles, ShareOneCallableThatHoldsTheStyle) {
-    const FloodStyle style{SystemColor::red};
-    const AnyChartStyle erased(style), copy = erased;
+    const AnyChartStyle erased(FloodStyle{SystemColor::red}), copy = erased;
     EXPECT_EQ(copy.styleMakeBody, erased.styleMakeBody);
-    EXPECT_EQ(erased.styleMakeBody.use_count(), 2);
-    const ChartStyleConfiguration data{{{1}}};
-    expectColor(raster(copy.makeBody(data), size).pixelColor(9, 9), light(SystemColor::red));
-    EXPECT_EQ(*style.made, 1);
+    expectColor(raster(copy.makeBody({}), size).pixelColor(9, 9), light(SystemColor::red));
 }
 
 TEST(ChartStyles, ComeFromTheEnvironmentTheInnermostOneWinning) {
@@ -63,7 +56,6 @@ TEST(ChartStyles, ComeFromTheEnvironmentTheInnermostOneWinning) {
     const QImage image = raster(views, size);
     expectColor(image.pixelColor(20, 20), light(SystemColor::red), "the outer style");
     expectColor(image.pixelColor(80, 20), light(SystemColor::green), "the inner style");
-    EXPECT_EQ(*outer.made, 1);
 }
 
 TEST(TheDefaultStyle, IsOneThinSmoothAccentLine) {

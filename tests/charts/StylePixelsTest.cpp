@@ -94,7 +94,7 @@ TEST(Areas, BetweenTwoLinesCloseFromEndToEnd) {
     for (int i = 0; i < 5; ++i)
         EXPECT_EQ(QPointF(path.elementAt(i)), corners[static_cast<std::size_t>(i)]) << i;
     const AreaChart closed{LineType::line, band.unitPoints, std::vector<PlotPoint>{}};
-    EXPECT_EQ(QPointF(closed.path(rect).currentPosition()), QPointF(0, 20));
+    EXPECT_EQ(closed.path(rect).currentPosition(), QPointF(0, 20));
 }
 
 TEST(StackedAreas, StandOnEachOtherFromTheBottomAndRepeatTheirColors) {

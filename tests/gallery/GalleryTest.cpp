@@ -38,10 +38,7 @@ TEST(Exhibits, ShowSomethingAndFollowTheirSliders) {
         EXPECT_TRUE(isPainted(first, QRect(QPoint(), size))) << exhibit->title().toStdString();
         for (ExhibitParameter* parameter : all(exhibit->parameters())) {
             const double value = parameter->value();
-            const double farther = value - parameter->from() < parameter->to() - value
-                                       ? parameter->to()
-                                       : parameter->from();
-            parameter->setValue(farther);
+            parameter->setValue(value < parameter->to() ? parameter->to() : parameter->from());
             EXPECT_NE(picture(*exhibit), first)
                 << exhibit->title().toStdString() << ", " << parameter->name().toStdString();
             parameter->setValue(value);

@@ -130,12 +130,10 @@ TEST(HalfCapsules, AreRoundOnTheLeftAndSquareOnTheRight) {
         EXPECT_EQ(path.boundingRect(), box);
         expectNear(path.elementAt(0), box.topRight());
         expectNear(path.currentPosition(), box.bottomRight());
-        EXPECT_TRUE(path.contains(box.bottomRight() - QPointF(0.1, 0.1)));
         const QPointF diagonal(-radius / std::sqrt(2), -radius / std::sqrt(2));
         const QPointF centre = box.topLeft() + QPointF(radius, radius);
         EXPECT_TRUE(path.contains(centre + 0.99 * diagonal));
         EXPECT_FALSE(path.contains(centre + 1.01 * diagonal));
-        EXPECT_FALSE(path.contains(box.bottomLeft() + QPointF(1, -1)));
     }
     EXPECT_TRUE(HalfCapsule{25}.path({0, 0, 100, 50}).isEmpty());
 }

@@ -20,13 +20,13 @@ std::vector<QString> words(std::initializer_list<const char*> texts) {
     return {texts.begin(), texts.end()};
 }
 
+// Readings are told in one locale's numbers.
+const bool english = (QLocale::setDefault(QLocale(QLocale::English)), true);
+
 std::string read(const auto& chart, QPointF place) {
     const auto reading = chart.reading(place, size);
     return reading ? reading->text.toStdString() : "nothing";
 }
-
-// Readings are told in one locale's numbers.
-const bool english = (QLocale::setDefault(QLocale(QLocale::English)), true);
 
 /// The colour that a chart paints where it says its reading for `place` stands.
 QColor colorAtReading(const auto& chart, QPointF place, QPointF nudge = {}) {
@@ -34,49 +34,42 @@ QColor colorAtReading(const auto& chart, QPointF place, QPointF nudge = {}) {
     return raster(chart.plot(), size, 4).pixelColor((point * 4).toPoint());
 }
 
+/// Fails unless the chart reads out `text` for a place and has the reading's colour where it
+/// stands.
+void expectReading(const auto& chart, QPointF place, const char* text, SystemColor color) {
+    EXPECT_EQ(read(chart, place), text);
+    expectColor(colorAtReading(chart, place), light(color), text);
+}
+
 TEST(PlotScales, BringAnyValuesIntoTheUnitRange) {
-    const auto fractions = [](const std::vector<double>& values) {
-        PlotScale scale;
-        scale.include(values);
-        return scale.fractions(values);
-    };
-    EXPECT_EQ(fractions({-10, 30}), (std::vector{0., 1.}));
-    EXPECT_EQ(fractions({2147483647, 1}), (std::vector{1., 1 / 2147483647.}));
     const double huge = std::numeric_limits<double>::max();
-    EXPECT_EQ(fractions({huge, -huge, infinity}), (std::vector{1., 0., infinity}));
+    const std::vector values{huge, -huge, infinity, 0.};
+    PlotScale scale;
+    scale.include(values);
+    EXPECT_EQ(scale.fractions(values), (std::vector{1., 0., infinity, 0.5}));
 }
 
 TEST(LineCharts, ReadOutTheNearestValueWhereItIsDrawn) {
-    const LineChartView chart{QStringLiteral("Year"),
-                              {QStringLiteral("Balance"), {1000, nan, -500, 1234.5}, red},
-                              words({"Jan", "Feb", "Mar", "Apr"}),
-                              LineType::line,
-                              4};
-    EXPECT_EQ(read(chart, {0, 0}), "Jan, 1,000");
-    EXPECT_EQ(read(chart, {120, 0}), "Mar, -500") << "the gap's neighbour";
-    EXPECT_EQ(read(chart, {199, 60}), "Apr, 1,234.5");
-    for (const double x : {10., 120., 199.})
-        expectColor(colorAtReading(chart, {x, 60}), light(SystemColor::red), "the line");
-    LineChartView bare = chart;
-    bare.labels.clear();
-    EXPECT_EQ(read(bare, {0, 0}), "Balance, 1,000");
-    expectColor(colorAtReading(bare, {199, 60}), light(SystemColor::red), "without labels");
+    const auto months = words({"Jan", "Feb", "Mar", "Apr"});
+    const ChartSeries series{QStringLiteral("Balance"), {1000, nan, -500, 1234.5}, red};
+    const LineChartView chart{{}, series, months, LineType::line, 4};
+    expectReading(chart, {0, 0}, "Jan, 1,000", SystemColor::red);
+    expectReading(chart, {120, 0}, "Mar, -500", SystemColor::red);
+    expectReading(chart, {199, 60}, "Apr, 1,234.5", SystemColor::red);
+    LineChartView bare{{}, series, {}, LineType::line, 4};
+    expectReading(bare, {0, 0}, "Balance, 1,000", SystemColor::red);
     bare.series.values = {nan, infinity};
     EXPECT_EQ(read(bare, {10, 10}), "nothing");
 }
 
 TEST(MultiLineCharts, ReadOutTheNearerOfTheirSeries) {
-    const MultiLineChartView chart{
-        {},
-        {{QStringLiteral("In"), {0, 100, 100}, green}, {QStringLiteral("Out"), {0, 20}, red}},
-        words({"Jan", "Feb", "Mar"}),
-        LineType::line,
-        4};
-    EXPECT_EQ(read(chart, {100, 10}), "In Feb, 100");
-    EXPECT_EQ(read(chart, {100, 85}), "Out Feb, 20");
-    EXPECT_EQ(read(chart, {190, 110}), "In Mar, 100") << "the shorter series ends before";
-    expectColor(colorAtReading(chart, {100, 10}), light(SystemColor::green), "one scale for both");
-    expectColor(colorAtReading(chart, {100, 85}), light(SystemColor::red), "one scale for both");
+    const ChartSeries in{QStringLiteral("In"), {0, 100, 100}, green};
+    const ChartSeries out{QStringLiteral("Out"), {0, 20}, red};
+    const auto months = words({"Jan", "Feb", "Mar"});
+    const MultiLineChartView chart{{}, {in, out}, months, LineType::line, 4};
+    expectReading(chart, {100, 10}, "In Feb, 100", SystemColor::green);
+    expectReading(chart, {100, 85}, "Out Feb, 20", SystemColor::red);
+    expectReading(chart, {190, 110}, "In Mar, 100", SystemColor::green);
     const LegendEntry entry = chart.legend().at(1);
     EXPECT_EQ(entry.label, QStringLiteral("Out"));
     expectColor(raster(entry.swatch(), {10, 10}).pixelColor(5, 5), light(SystemColor::red));
@@ -102,11 +95,9 @@ TEST(PieCharts, GiveEachSliceItsShareFromTheTopClockwise) {
                               {QStringLiteral("Unknown"), nan, blue},
                               {QStringLiteral("Quarter"), 25, green},
                               {QStringLiteral("Rest"), 25, blue}}};
-    EXPECT_EQ(read(chart, {150, 60}), "Half, 50");
-    EXPECT_EQ(read(chart, {95, 110}), "Quarter, 25");
-    EXPECT_EQ(read(chart, {60, 20}), "Rest, 25");
-    expectColor(colorAtReading(chart, {150, 60}), light(SystemColor::red));
-    expectColor(colorAtReading(chart, {60, 20}), light(SystemColor::blue));
+    expectReading(chart, {150, 60}, "Half, 50", SystemColor::red);
+    expectReading(chart, {95, 110}, "Quarter, 25", SystemColor::green);
+    expectReading(chart, {60, 20}, "Rest, 25", SystemColor::blue);
 }
 
 TEST(Magnifiers, EnlargeThePlotAroundTheirFocus) {
