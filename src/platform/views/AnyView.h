@@ -9,7 +9,7 @@
 namespace kovamo {
 
 /// A view: a value that paints itself into a rectangle. It leaves the painter's state as it found
-/// it, but for pen and brush, and may paint outside of the rectangle: nothing clips it.
+/// it, but for pen, brush and hints, and may paint outside of the rectangle: nothing clips it.
 template<class V>
 concept View = std::copyable<V> && requires(const V view, QPainter& painter, const QRectF& rect,
                                             const EnvironmentValues& environment) {
