@@ -65,8 +65,8 @@ void GradientPanel::paint(QPainter* painter) {
     const double extent = m_shadowExtent;
     const QRectF panel = boundingRect().adjusted(extent, extent, -extent, -extent);
     QLinearGradient gradient(panel.topLeft(), panel.topRight());
-    gradient.setColorAt(0, m_leadingColor);
-    gradient.setColorAt(1, m_trailingColor);
+    gradient.setColorAt(0, m_leftColor);
+    gradient.setColorAt(1, m_rightColor);
     paintShadow(*painter, panel, m_cornerRadius, extent);
     painter->fillPath(continuousRectangle(panel, m_cornerRadius), gradient);
 }

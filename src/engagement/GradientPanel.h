@@ -5,14 +5,14 @@
 
 namespace kovamo {
 
-/// A panel with continuous corners, filled from its leading to its trailing colour, on a soft
+/// A panel with continuous corners, filled from its left to its right colour, on a soft
 /// shadow of black at 33 % with no offset. All is painted; the shadow lies outside of the panel's
 /// bounds, `shadowExtent` points wide.
 class GradientPanel : public QQuickPaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QColor leadingColor MEMBER m_leadingColor NOTIFY changed)
-    Q_PROPERTY(QColor trailingColor MEMBER m_trailingColor NOTIFY changed)
+    Q_PROPERTY(QColor leftColor MEMBER m_leftColor NOTIFY changed)
+    Q_PROPERTY(QColor rightColor MEMBER m_rightColor NOTIFY changed)
     /// Corner radius in points.
     Q_PROPERTY(qreal cornerRadius MEMBER m_cornerRadius NOTIFY changed)
     /// How far the shadow reaches, in points: the item is that much larger than the panel, on
@@ -28,8 +28,8 @@ class GradientPanel : public QQuickPaintedItem {
     void changed();
 
   private:
-    QColor m_leadingColor;
-    QColor m_trailingColor;
+    QColor m_leftColor;
+    QColor m_rightColor;
     qreal m_cornerRadius = 20;
     qreal m_shadowExtent = 10;
 };

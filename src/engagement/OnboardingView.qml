@@ -87,8 +87,8 @@ FocusScope {
             GradientPanel {
                 anchors.fill: parent
                 anchors.margins: -shadowExtent
-                leadingColor: SystemColors.blue
-                trailingColor: SystemColors.purple
+                leftColor: button.mirrored ? SystemColors.purple : SystemColors.blue
+                rightColor: button.mirrored ? SystemColors.blue : SystemColors.purple
             }
             FocusRing {
                 visible: button.visualFocus

@@ -25,9 +25,9 @@ T.Popup {
             anchors.fill: parent
             anchors.margins: -shadowExtent
             cornerRadius: 14
-            leadingColor: SystemColors.cell
+            leftColor: SystemColors.cell
             shadowExtent: 24
-            trailingColor: SystemColors.cell
+            rightColor: SystemColors.cell
         }
     }
     enter: Transition {

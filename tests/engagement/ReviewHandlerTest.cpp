@@ -9,7 +9,6 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QUrl>
-#include <QWindow>
 #include <fstream>
 #include <gtest/gtest.h>
 
@@ -19,123 +18,95 @@ namespace {
 using namespace std::chrono_literals;
 
 const QString countKey = QStringLiteral("appStartUpsCountKey");
+const QString versionKey = QStringLiteral("lastVersionPromptedForReviewKey");
 
 class ReviewHandlerTest : public testing::Test {
   protected:
     ReviewHandlerTest() {
         Bundle::main().setInfoDictionary({{kCFBundleVersionKey, QStringLiteral("17")}});
-        ReviewController::shared().setSheetPresented(false);
-        ReviewController::shared().dismiss();
-    }
-
-    // Shows the app's window, where the prompt may stand.
-    void activate() {
+        m_controller.setSheetPresented(false);
+        m_controller.dismiss();
         m_window.show();
         m_window.requestActivate();
         QCoreApplication::processEvents();
     }
 
-    // Whether the platform shows its prompt when asked, which is then sent away.
+    // Whether the platform shows its prompt when asked; it is sent away then.
     bool prompts() {
         ReviewController::requestReview(m_window);
-        const bool shown = ReviewController::shared().scene() == &m_window;
-        ReviewController::shared().dismiss();
+        const bool shown = m_controller.scene() == &m_window;
+        m_controller.dismiss();
         return shown;
     }
 
     World m_world{"2024-05-15 10:00"};
     FastQueue m_queue;
     QWindow m_window;
+    ReviewController& m_controller = ReviewController::shared();
 };
 
 TEST_F(ReviewHandlerTest, AsksFromTheFourthStartUpUnlessThisBuildHasAsked) {
-    struct Case {
-        std::int64_t countBefore;
-        const char* lastVersion;
-        std::size_t scheduled;
+    const std::tuple<std::int64_t, const char*, std::size_t> cases[] = {
+        {0, "", 0},   {2, "", 0},    {3, "", 1},    {4, "", 1},     {2, "16", 0},
+        {3, "17", 0}, {10, "16", 1}, {10, "17", 0}, {10, "017", 1},
     };
-    const Case cases[] = {{0, nullptr, 0}, {1, nullptr, 0}, {2, nullptr, 0}, {3, nullptr, 1},
-                          {4, nullptr, 1}, {10, "16", 1},   {10, "17", 0},   {3, "17", 0},
-                          {10, "017", 1},  {2, "16", 0},    {10, "", 1}};
-    for (const Case& each : cases) {
-        const World world("2024-05-15 10:00");
-        const FastQueue queue;
-        UserDefaults& defaults = UserDefaults::standard();
-        defaults.set(countKey, each.countBefore);
-        const QString versionKey = QStringLiteral("lastVersionPromptedForReviewKey");
-        if (each.lastVersion)
-            defaults.set(versionKey, QString::fromLatin1(each.lastVersion));
-        const auto versionBefore = defaults.string(versionKey);
+    for (const auto& [count, lastVersion, scheduled] : cases) {
+        m_queue.clear();
+        UserDefaults::standard().set(countKey, count);
+        UserDefaults::standard().set(versionKey, QString::fromLatin1(lastVersion));
         ReviewHandler::requestReviewIfAppropriate();
-        EXPECT_EQ(queue.size(), each.scheduled) << each.countBefore;
+        EXPECT_EQ(m_queue.size(), scheduled) << count << " " << lastVersion;
         UserDefaults::reopenStandard();
-        EXPECT_EQ(UserDefaults::standard().integer(countKey), each.countBefore + 1);
-        EXPECT_EQ(UserDefaults::standard().string(versionKey), versionBefore);
+        EXPECT_EQ(UserDefaults::standard().integer(countKey), count + 1);
+        EXPECT_EQ(UserDefaults::standard().string(versionKey), lastVersion);
     }
 }
 
 TEST_F(ReviewHandlerTest, FourStartUpsLeadToThePromptTwoSecondsLater) {
-    activate();
-    for (int start = 1; start <= 4; ++start) {
-        UserDefaults::reopenStandard();
-        EXPECT_EQ(m_queue.size(), 0U) << start;
+    for (int start = 1; start <= 5; ++start) {
         ReviewHandler::requestReviewIfAppropriate();
+        EXPECT_EQ(m_queue.size(), start < 4 ? 0 : start - 3) << start;
     }
-    ReviewHandler::requestReviewIfAppropriate();
-    EXPECT_EQ(m_queue.size(), 2U);
     m_queue.advance(1999ms);
-    EXPECT_EQ(ReviewController::shared().scene(), nullptr);
+    EXPECT_EQ(m_controller.scene(), nullptr);
     m_queue.advance(1ms);
-    EXPECT_EQ(ReviewController::shared().scene(), &m_window);
-}
+    EXPECT_EQ(m_controller.scene(), &m_window);
 
-TEST_F(ReviewHandlerTest, AsksNobodyWhenTheAppIsNotInFront) {
-    UserDefaults::standard().set(countKey, std::int64_t{3});
-    activate();
+    m_controller.dismiss();
     ReviewHandler::requestReviewIfAppropriate();
     m_window.hide();
     QCoreApplication::processEvents();
     m_queue.advance(2s);
-    EXPECT_EQ(ReviewController::shared().scene(), nullptr);
+    EXPECT_EQ(m_controller.scene(), nullptr) << "nobody is there to be asked";
 }
 
 TEST_F(ReviewHandlerTest, StopsWithoutABuildVersionAndAtTheLastCount) {
-    const QVariant wrong[] = {{}, 17};
-    for (const QVariant& version : wrong) {
-        Bundle::main().setInfoDictionary({{kCFBundleVersionKey, version}});
-        EXPECT_DEATH(ReviewHandler::requestReviewIfAppropriate(),
-                     "Expected to find a bundle version in the info dictionary");
-    }
+    Bundle::main().setInfoDictionary({{kCFBundleVersionKey, 17}});
+    EXPECT_DEATH(ReviewHandler::requestReviewIfAppropriate(),
+                 "Expected to find a bundle version in the info dictionary");
     UserDefaults::standard().set(countKey, INT64_MAX);
     EXPECT_DEATH(ReviewHandler::requestReviewIfAppropriate(), "overflow: 9223372036854775807");
 }
 
-TEST_F(ReviewHandlerTest, ThePlatformPromptsThriceInAYear) {
-    EXPECT_TRUE(prompts());
-    m_world.setTime("2024-08-01 10:00");
-    EXPECT_TRUE(prompts());
-    EXPECT_TRUE(prompts());
+TEST_F(ReviewHandlerTest, ThePlatformPromptsThriceInAYearAndNeverOverASheet) {
+    m_controller.setSheetPresented(true);
     EXPECT_FALSE(prompts());
-    UserDefaults::reopenStandard();
-    m_world.setTime("2025-05-15 09:59:59.999");
-    EXPECT_FALSE(prompts());
-    m_world.setTime("2025-05-15 10:00");
-    EXPECT_TRUE(prompts());
-    EXPECT_FALSE(prompts());
-    m_world.setTime("2024-01-01");
-    EXPECT_FALSE(prompts()) << "the clock set back";
-}
-
-TEST_F(ReviewHandlerTest, ASheetKeepsThePromptAwayWithoutSpendingIt) {
-    ReviewController& controller = ReviewController::shared();
-    controller.setSheetPresented(true);
-    for (int i = 0; i < 4; ++i)
-        EXPECT_FALSE(prompts());
-    controller.setSheetPresented(false);
+    m_controller.setSheetPresented(false);
+    const std::pair<const char*, bool> asked[] = {
+        {"2024-05-15 10:00", true},         {"2024-08-01 10:00", true},
+        {"2024-08-01 10:00", true},         {"2024-08-01 10:00", false},
+        {"2025-05-15 09:59:59.999", false}, {"2025-05-15 10:00", true},
+        {"2025-05-15 10:00", false},        {"2024-01-01", false},
+    };
+    for (const auto& [time, shown] : asked) {
+        m_world.setTime(time);
+        UserDefaults::reopenStandard();
+        EXPECT_EQ(prompts(), shown) << time;
+    }
+    m_world.setTime("2026-08-01");
     ReviewController::requestReview(m_window);
-    EXPECT_EQ(controller.scene(), &m_window);
-    controller.setSheetPresented(true);
-    EXPECT_EQ(controller.scene(), nullptr);
+    m_controller.setSheetPresented(true);
+    EXPECT_EQ(m_controller.scene(), nullptr) << "a sheet sends it away";
 }
 
 class SoftwareCentre : public QObject {
@@ -144,30 +115,29 @@ class SoftwareCentre : public QObject {
   public:
     SoftwareCentre() { QDesktopServices::setUrlHandler(QStringLiteral("appstream"), this, "open"); }
     ~SoftwareCentre() override { QDesktopServices::unsetUrlHandler(QStringLiteral("appstream")); }
+    Q_SLOT void open(const QUrl& url) { opened = url; }
 
-    Q_SLOT void open(const QUrl& url) { m_opened.append(url.toString()); }
-
-    QStringList m_opened;
+    QUrl opened;
 };
 
 TEST_F(ReviewHandlerTest, StarsLeadToTheSoftwareCentreOrToThanks) {
     const SoftwareCentre centre;
-    ReviewController& controller = ReviewController::shared();
-    qputenv("XDG_DATA_DIRS", m_world.folder().toUtf8());
+    const QDir folder(m_world.folder());
+    qputenv("XDG_DATA_DIRS", folder.path().toUtf8());
     ReviewController::requestReview(m_window);
-    controller.rate(4);
-    EXPECT_TRUE(controller.isThanking());
+    m_controller.rate(4);
+    EXPECT_TRUE(m_controller.isThanking());
+    EXPECT_TRUE(centre.opened.isEmpty());
     m_queue.advance(1min);
-    EXPECT_EQ(controller.scene(), nullptr);
-    EXPECT_EQ(centre.m_opened, QStringList());
+    EXPECT_EQ(m_controller.scene(), nullptr);
 
-    QDir().mkpath(m_world.folder() + QStringLiteral("/applications"));
-    std::ofstream(m_world.folder().toStdString() + "/applications/mimeinfo.cache")
+    folder.mkpath(QStringLiteral("applications"));
+    std::ofstream(folder.filePath(QStringLiteral("applications/mimeinfo.cache")).toStdString())
         << "[MIME Cache]\nx-scheme-handler/appstream=centre.desktop;\n";
     ReviewController::requestReview(m_window);
-    controller.rate(4);
-    EXPECT_EQ(controller.scene(), nullptr);
-    EXPECT_EQ(centre.m_opened, QStringList(QStringLiteral("appstream:org.kovamo.Kovamo")));
+    m_controller.rate(4);
+    EXPECT_EQ(m_controller.scene(), nullptr);
+    EXPECT_EQ(centre.opened.toString(), "appstream:org.kovamo.Kovamo");
 }
 
 } // namespace
