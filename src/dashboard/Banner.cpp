@@ -14,6 +14,12 @@ namespace {
 
 constexpr double cornerRadius = 20;
 
+/// One unit of the currency, without the marks that some locales put around it for the direction.
+QString oneUnit() {
+    return currencyText(1).removeIf(
+        [](QChar character) { return character.category() == QChar::Other_Format; });
+}
+
 bool currencyFollows(const QString& one) {
     return one.startsWith(digitText(1));
 }
@@ -60,14 +66,14 @@ QString Banner::numberText() const {
 }
 
 QString Banner::leadingSymbol() const {
-    const QString one = currencyText(1);
+    const QString one = oneUnit();
     return currencyFollows(one) ? QString() : withoutDigit(one);
 }
 
 QString Banner::trailingSymbol() const {
     std::printf("%s\n", moneyLocale().getName());
     std::fflush(stdout);
-    const QString one = currencyText(1);
+    const QString one = oneUnit();
     return currencyFollows(one) ? withoutDigit(one) : QString();
 }
 

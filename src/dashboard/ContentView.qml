@@ -1,4 +1,5 @@
 import QtQuick
+import QtQml
 import Kovamo.Controls
 import Kovamo.Editing
 import Kovamo.Dashboard
@@ -27,6 +28,17 @@ FocusScope {
         sequence: "Ctrl+L"
 
         onActivated: screen.content.showTransactions = true
+    }
+    Instantiator {
+        model: screen.content.timeFrames
+
+        Shortcut {
+            required property timeFrameChoice modelData
+
+            sequence: "Ctrl+" + modelData.value
+
+            onActivated: screen.content.select(modelData.value)
+        }
     }
     NavigationBar {
         id: bar

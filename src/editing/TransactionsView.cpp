@@ -47,8 +47,8 @@ void TransactionsView::edit(int row) {
 
 void TransactionsView::remove(const QList<int>& rows) {
     for (const int row : rows) {
-        if (row >= rowCount())
-            break;
+        if (row < 0 || row >= rowCount())
+            continue;
         m_viewContext.deleteObject(transaction(row));
         try {
             m_viewContext.save();

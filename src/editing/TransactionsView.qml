@@ -39,7 +39,10 @@ NavigationStack {
             required property string sentence
 
             accessibleName: sentence
+            focus: ListView.isCurrentItem
 
+            onActiveFocusChanged: if (activeFocus)
+                list.currentIndex = index
             onClicked: screen.open(index)
             onDeleteRequested: screen.transactions.remove([index])
 

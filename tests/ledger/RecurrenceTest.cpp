@@ -1,5 +1,5 @@
 #include "ledger/Recurrence.h"
-#include "Book.h"
+#include "support/Book.h"
 
 #include <gtest/gtest.h>
 

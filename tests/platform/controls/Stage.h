@@ -1,8 +1,8 @@
 #pragma once
 
+#include "support/Hand.h"
+
 #include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QTest>
 #include <functional>
 #include <memory>
@@ -26,16 +26,17 @@ class Stage {
     /// The names of the emphasised moments that the QML noted by `log += "…"`.
     [[nodiscard]] std::string log() const { return get("log").toString().toStdString(); }
 
-    /// The visible item that shows `text`.
-    [[nodiscard]] QQuickItem* showing(const QString& text) const;
-    /// The middle of an item in the window.
-    [[nodiscard]] static QPoint middle(const QQuickItem* item);
+    [[nodiscard]] QQuickItem* showing(const QString& text) { return shown(m_window, text); }
+    [[nodiscard]] static QPoint middle(const QQuickItem* item) { return kovamo::middle(item); }
     void click(const QQuickItem* item) { click(middle(item)); }
-    void click(QPoint point, Qt::MouseButton button = Qt::LeftButton);
-    /// Presses at `from`, moves by `by` in small steps and in some time, and lets go.
-    void drag(QPoint from, QPoint by, int milliseconds = 4000);
+    void click(QPoint point, Qt::MouseButton button = Qt::LeftButton) {
+        kovamo::click(m_window, point, button);
+    }
+    void drag(QPoint from, QPoint by, int milliseconds = 4000) {
+        kovamo::drag(m_window, from, by, milliseconds);
+    }
     void press(Qt::Key key) { QTest::keyClick(&m_window, key); }
-    void type(const QString& text);
+    void type(const QString& text) { kovamo::type(text); }
     /// Whether `condition` comes true while the window lives on.
     [[nodiscard]] static bool soon(const std::function<bool()>& condition) {
         return QTest::qWaitFor(condition, 5000);

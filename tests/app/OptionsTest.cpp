@@ -1,0 +1,61 @@
+#include "support/World.h"
+
+#include <QDir>
+#include <QImage>
+#include <QProcess>
+#include <gtest/gtest.h>
+
+namespace kovamo {
+namespace {
+
+/// Runs the app itself to its end.
+struct Ended {
+    int exitCode;
+    QByteArray output;
+    QByteArray errors;
+
+    explicit Ended(const QStringList& arguments) {
+        QProcess process;
+        process.start(QStringLiteral(KOVAMO_EXECUTABLE), arguments);
+        EXPECT_TRUE(process.waitForFinished(120000));
+        exitCode = process.exitCode();
+        output = process.readAllStandardOutput();
+        errors = process.readAllStandardError();
+    }
+};
+
+TEST(Options, UnknownOnesPrintTheUsage) {
+    const World world("2024-05-15 10:00");
+    for (const char* wrong :
+         {"--frob", "demo", "--appearance", "--appearance=dark", "--pictures"}) {
+        const Ended run({QString::fromUtf8(wrong)});
+        EXPECT_EQ(run.exitCode, 2) << wrong;
+        EXPECT_TRUE(run.errors.startsWith("Usage: kovamo ")) << wrong;
+        EXPECT_EQ(run.output, "") << wrong;
+    }
+    EXPECT_EQ(Ended({QStringLiteral("--appearance"), QStringLiteral("sepia")}).exitCode, 2);
+}
+
+TEST(Options, PicturesShowEveryScreenAndTouchNothingOfTheUsers) {
+    const World world("2024-05-15 10:00");
+    const QDir pictures(world.folder() + u"/pictures");
+    const Ended run({QStringLiteral("--pictures"), pictures.path()});
+    EXPECT_EQ(run.exitCode, 0);
+    EXPECT_FALSE(run.errors.contains(".qml")) << run.errors.toStdString();
+    const QStringList files = pictures.entryList({QStringLiteral("*.png")});
+    EXPECT_GE(files.size(), 10);
+    QSet<QByteArray> different;
+    for (const QString& file : files) {
+        EXPECT_TRUE(run.output.contains(pictures.filePath(file).toUtf8()));
+        const QImage image(pictures.filePath(file));
+        EXPECT_EQ(image.size(), QSize(390, 844));
+        different.insert(
+            QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
+    }
+    EXPECT_EQ(different.size(), files.size()) << "two screens look the same";
+    for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+        EXPECT_TRUE(QDir(QString::fromUtf8(qgetenv(variable))).isEmpty()) << variable;
+}
+
+} // namespace
+} // namespace kovamo

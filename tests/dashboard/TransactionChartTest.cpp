@@ -1,0 +1,104 @@
+#include "dashboard/TransactionChart.h"
+#include "support/Book.h"
+
+#include <QImage>
+#include <QPainter>
+#include <cmath>
+#include <gtest/gtest.h>
+
+namespace kovamo {
+namespace {
+
+Line spending(std::int32_t amount, const char* day) {
+    return {amount, day, nullptr, day, false};
+}
+
+QList<double> padded(QList<double> values) {
+    values.resize(15);
+    return values;
+}
+
+TEST(TransactionChart, ScalesTheAmountsInTheOrderOfTheirDates) {
+    const World world("2024-05-15 10:00");
+    const struct {
+        std::initializer_list<Line> lines;
+        QList<double> positive;
+        QList<double> negative;
+    } cases[] = {
+        {{}, {}, {}},
+        {{{50, "2024-05-01"}}, {1}, {0}},
+        {{spending(200, "2024-05-03"), {100, "2024-05-01"}, {50, "2024-05-02"}},
+         {0.5, 0.25, 0},
+         {0, 0, 1}},
+        // Equal dates keep the order in which they were gathered: one-offs, then recurring ones.
+        {{{10, "2024-05-02", "monthly"}, {20, "2024-05-02"}, spending(40, "2024-05-02")},
+         {0.5, 0, 0.25},
+         {0, 1, 0}},
+        {{{2147483647, "2024-05-01"}, spending(1, "2024-05-02")}, {1, 0}, {0, 1 / 2147483647.0}},
+    };
+    for (const auto& [lines, positive, negative] : cases) {
+        const World scratch("2024-05-15 10:00");
+        Book book(lines);
+        const TransactionChart chart(book.context, 1);
+        EXPECT_EQ(chart.isShown(), lines.size() > 0);
+        EXPECT_EQ(chart.positiveChartData, padded(positive));
+        EXPECT_EQ(chart.negativeChartData, padded(negative));
+    }
+}
+
+TEST(TransactionChart, SaysItsFrameAndRange) {
+    World world("2024-03-10 10:00");
+    Book book({{1200, "2024-03-11"}, spending(7, "2024-03-12")});
+    EXPECT_EQ(TransactionChart(book.context, 1).range(), u"**03/01 - 03/31**");
+    EXPECT_EQ(TransactionChart(book.context, 2).title(), u"3 Months");
+    EXPECT_EQ(TransactionChart(book.context, 9).title(), QString());
+    const TransactionChart year(book.context, 3);
+    EXPECT_EQ(year.range(), u"**03/01/24 - 02/28/25**");
+    EXPECT_EQ(year.sentence(), u"12 Months, 03/01/24 - 02/28/25: 1 earnings, 1 spendings, largest "
+                               "amount $1,200");
+    EXPECT_EQ(year.columnText(0), u"title\n+ $1,200\nMar 11, 2024");
+    // The Buddhist year of January is that of March; a Persian year ends with March.
+    qputenv("LC_ALL", "th_TH.UTF-8");
+    EXPECT_EQ(TransactionChart(book.context, 2).stackDateFormat, u"MM/dd");
+    qputenv("LC_ALL", "fa_IR.UTF-8");
+    EXPECT_EQ(TransactionChart(book.context, 2).stackDateFormat, u"MM/dd/yy");
+}
+
+TEST(TransactionChart, PaintsAColumnWhereItFindsOne) {
+    const World world("2024-05-15 10:00");
+    Book book({{100, "2024-05-01"}, spending(50, "2024-05-02")});
+    const TransactionChart chart(book.context, 1);
+    constexpr int width = 390;
+    QImage image(width, static_cast<int>(TransactionChart::height()), QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    chart.view().paint(painter, image.rect(), EnvironmentValues());
+    painter.end();
+    const int first = static_cast<int>(chart.columnCenter(0, width));
+    const int second = static_cast<int>(chart.columnCenter(1, width));
+    EXPECT_EQ(chart.columnAt(first, width), 0);
+    EXPECT_EQ(chart.columnAt(second, width), 1);
+    EXPECT_EQ(chart.columnAt(chart.columnCenter(2, width), width), -1) << "an empty column";
+    const QColor green = image.pixelColor(first, 30), red = image.pixelColor(second, 130);
+    EXPECT_GT(green.green(), green.red() + 50);
+    EXPECT_GT(red.red(), red.green() + 50);
+    EXPECT_EQ(image.pixelColor(second, 110), QColor(Qt::white)) << "it is half as high";
+    EXPECT_GT(image.pixelColor(first, 210).red(), 200) << "it ends in yellow";
+}
+
+TEST(TransactionChart, DrawsNothingForAmountsOfZero) {
+    const World world("2024-05-15 10:00");
+    Book book({{0, "2024-05-01"}});
+    const TransactionChart chart(book.context, 1);
+    EXPECT_TRUE(std::isnan(chart.positiveChartData[0]));
+    QImage image(390, 240, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    const QImage blank = image.copy();
+    QPainter painter(&image);
+    chart.view().paint(painter, image.rect(), EnvironmentValues());
+    painter.end();
+    EXPECT_EQ(image, blank);
+}
+
+} // namespace
+} // namespace kovamo

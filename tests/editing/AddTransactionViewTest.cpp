@@ -1,0 +1,142 @@
+#include "editing/AddTransactionView.h"
+#include "platform/foundation/NotificationCenter.h"
+#include "support/Book.h"
+
+#include <QSignalSpy>
+#include <gtest/gtest.h>
+
+namespace kovamo {
+namespace {
+
+void fill(AddTransactionView& form, const char* amount) {
+    form.setEmoji(QStringLiteral("☕"));
+    form.setTitle(QStringLiteral("Coffee"));
+    form.setAmount(QString::fromUtf8(amount));
+}
+
+std::vector<Transaction*> all(ManagedObjectContext& context) {
+    return context.fetch<Transaction>(Transaction::fetchRequest());
+}
+
+TEST(AddTransactionView, LetsOnlyAsciiDigitsIntoTheAmount) {
+    const World world("2024-05-15 10:00");
+    Book book({});
+    AddTransactionView form(book.context);
+    const std::pair<const char*, const char*> cases[] = {
+        {"12a,5", "125"}, {"-40", "40"},
+        {" 7 ", "7"},     {"1.234,56 €", "123456"},
+        {"٣٤5", "5"},     {"007", "007"},
+        {"+", ""},        {"99999999999999999999", "99999999999999999999"},
+    };
+    for (const auto& [typed, kept] : cases) {
+        const QSignalSpy changes(&form, &AddTransactionView::amountChanged);
+        form.setAmount(QString::fromUtf8(typed));
+        EXPECT_EQ(form.amount().toStdString(), kept) << typed;
+        EXPECT_GE(changes.count(), 1) << "the field is not told to drop " << typed;
+    }
+}
+
+TEST(AddTransactionView, CanSaveOnceNothingIsEmpty) {
+    const World world("2024-05-15 10:00");
+    Book book({});
+    for (int missing = 0; missing < 3; ++missing) {
+        AddTransactionView form(book.context);
+        fill(form, "1");
+        EXPECT_TRUE(form.canSave());
+        missing == 0 ? form.setEmoji({}) : missing == 1 ? form.setTitle({}) : form.setAmount({});
+        EXPECT_FALSE(form.canSave());
+        form.save();
+    }
+    EXPECT_TRUE(all(book.context).empty());
+    AddTransactionView form(book.context);
+    fill(form, "1");
+    form.setTitle(QStringLiteral(" "));
+    EXPECT_TRUE(form.canSave()) << "a blank is a title";
+}
+
+TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
+    World world("2024-05-15 10:00");
+    Book book({});
+    AddTransactionView form(book.context);
+    EXPECT_EQ(form.navigationTitle(), u"New Transaction");
+    EXPECT_EQ(form.selectedPositive(), u"Earning");
+    EXPECT_EQ(form.selectedType(), u"Monthly");
+    EXPECT_FALSE(form.isRecurring());
+    world.setTime("2024-05-15 10:05");
+    fill(form, "0042");
+    form.setSelectedPositive(QStringLiteral("Spending"));
+    form.setIsRecurring(true);
+    form.setSelectedType(QStringLiteral("Yearly"));
+    form.setIsRecurring(false);
+
+    std::string order;
+    const QObject observer;
+    NotificationCenter::defaultCenter().addObserver(
+        QStringLiteral("TransactionRefresh"), &observer, [&](const QVariant& object) {
+            EXPECT_EQ(object, QVariant(QStringLiteral("refresh")));
+            EXPECT_FALSE(book.context.hasChanges());
+            order += "told ";
+        });
+    QObject::connect(&form, &AddTransactionView::dismissed, [&] { order += "closed"; });
+    form.save();
+    EXPECT_EQ(order, "told closed");
+
+    const Transaction& saved = *all(book.context).at(0);
+    EXPECT_TRUE(saved.id());
+    EXPECT_EQ(saved.amount(), 42);
+    EXPECT_FALSE(saved.isPositive());
+    EXPECT_FALSE(saved.isRecurring());
+    EXPECT_EQ(saved.recurringType(), QStringLiteral("yearly"));
+    EXPECT_EQ(saved.startDate(), at("2024-05-15 10:00")) << "the moment of opening";
+    EXPECT_EQ(saved.endDate(), at("2024-05-15 10:00"));
+    EXPECT_EQ(saved.timestamp(), at("2024-05-15 10:05")) << "the moment of saving";
+}
+
+TEST(AddTransactionView, EditsARecordInPlace) {
+    World world("2024-05-15 10:00");
+    Book book({{50, "2024-05-10 08:30", "yearly", "2026-05-10", false}, {1}});
+    Transaction& record = *all(book.context).at(0);
+    const auto id = record.id();
+    AddTransactionView form(book.context, &record);
+    EXPECT_EQ(form.navigationTitle(), u"Edit Transaction");
+    EXPECT_EQ(form.amount(), u"50");
+    EXPECT_EQ(form.selectedPositive(), u"Spending");
+    EXPECT_EQ(form.selectedType(), u"Yearly");
+    EXPECT_TRUE(form.isRecurring());
+    form.setTitle(QStringLiteral("Other"));
+    EXPECT_EQ(record.title(), QStringLiteral("title")) << "nothing is written before the save";
+
+    world.setTime("2024-06-01 12:00");
+    form.save();
+    EXPECT_EQ(all(book.context).size(), 2U);
+    EXPECT_EQ(record.title(), QStringLiteral("Other"));
+    EXPECT_EQ(record.id(), id);
+    EXPECT_EQ(record.timestamp(), at("2024-06-01 12:00"));
+    EXPECT_EQ(record.startDate(), at("2024-05-10 08:30"));
+
+    record.setRecurringType({});
+    EXPECT_EQ(AddTransactionView(book.context, &record).selectedType(), u"Monthly");
+}
+
+TEST(AddTransactionViewDeathTest, StopsOverWhatItCannotKeep) {
+    const World world("2024-05-15 10:00");
+    Book book({{1}});
+    AddTransactionView form(book.context);
+    fill(form, "2147483648");
+    EXPECT_DEATH(form.save(), "2147483648");
+    fill(form, "2147483647");
+    form.save();
+    EXPECT_EQ(all(book.context).back()->amount(), 2147483647);
+
+    Transaction& record = *all(book.context).at(0);
+    record.setEndDate({});
+    EXPECT_DEATH(AddTransactionView(book.context, &record), "has no endDate");
+    record.setEndDate(at("2030-01-01"));
+    fill(form, "7");
+    book.elsewhere("CREATE TRIGGER refuse BEFORE UPDATE ON \"Transaction\" "
+                   "BEGIN SELECT RAISE(ABORT, 'no room'); END");
+    EXPECT_DEATH(form.save(), "Fatal error: Unresolved error no room, .*Kovamo.sqlite");
+}
+
+} // namespace
+} // namespace kovamo

@@ -1,0 +1,58 @@
+#include "editing/TransactionsView.h"
+#include "support/Book.h"
+
+#include <gtest/gtest.h>
+
+namespace kovamo {
+namespace {
+
+QStringList amounts(const TransactionsView& screen) {
+    QStringList amounts;
+    for (int row = 0; row < screen.rowCount(); ++row)
+        amounts.append(screen.data(screen.index(row), TransactionsView::AmountRole).toString());
+    return amounts;
+}
+
+TEST(TransactionsView, ListsEverythingLargestFirst) {
+    const World world("2024-05-15 10:00");
+    Book book({{300},
+               {500, "1999-01-01", nullptr, "1999-01-01", false},
+               {1234, "2024-01-01", "monthly"}});
+    const TransactionsView screen(book.context);
+    EXPECT_EQ(amounts(screen), (QStringList{"+ $1,234", "- $500", "+ $300"}));
+    EXPECT_EQ(screen.data(screen.index(0), TransactionsView::SentenceRole).toString(),
+              u"title, earning, $1,234, recurring");
+    EXPECT_EQ(screen.data(screen.index(1), TransactionsView::SentenceRole).toString(),
+              u"title, spending, $500");
+    book.add({400});
+    book.context.save();
+    EXPECT_EQ(amounts(screen), (QStringList{"+ $1,234", "- $500", "+ $400", "+ $300"}));
+}
+
+TEST(TransactionsView, DeletesEachRowOfTheListThatIsLeft) {
+    const World world("2024-05-15 10:00");
+    Book book({{5}, {4}, {3}, {2}, {1}});
+    TransactionsView screen(book.context);
+    screen.remove({0, 1});
+    EXPECT_EQ(amounts(screen), (QStringList{"+ $4", "+ $2", "+ $1"}));
+    EXPECT_FALSE(book.context.hasChanges());
+
+    book.elsewhere("CREATE TRIGGER refuse BEFORE DELETE ON \"Transaction\" "
+                   "BEGIN SELECT RAISE(ABORT, 'no'); END");
+    screen.remove({0});
+    EXPECT_EQ(amounts(screen), (QStringList{"+ $2", "+ $1"}));
+    EXPECT_TRUE(book.context.hasChanges());
+    EXPECT_EQ(amounts(TransactionsView(Book({}).context)), (QStringList{"+ $4", "+ $2", "+ $1"}));
+}
+
+TEST(TransactionsViewDeathTest, StopsOverARecordThatCannotBeShown) {
+    const World world("2024-05-15 10:00");
+    Book book({{5}});
+    book.context.fetch<Transaction>(Transaction::fetchRequest()).at(0)->setEmoji({});
+    const TransactionsView screen(book.context);
+    EXPECT_DEATH((void)screen.data(screen.index(0), TransactionsView::EmojiRole),
+                 "The transaction [0-9a-f-]{36} has no emoji");
+}
+
+} // namespace
+} // namespace kovamo
