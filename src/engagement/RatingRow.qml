@@ -8,8 +8,10 @@ import Kovamo.Foundation
 Row {
     id: stars
 
-    /*! How many are lit: those up to the star that is pointed at. */
-    property int count: 0
+    /*! How many stars have been given; 0 while the user chooses. */
+    required property int given
+    /*! The number of the star that is pointed at, up to which they light up; 0 for none. */
+    property int pointedAt: 0
 
     /*! The user chose a number of stars. */
     signal chosen(int stars)
@@ -20,11 +22,9 @@ Row {
         delegate: Pressable {
             id: star
 
+            readonly property bool candidate: hovered || visualFocus || pressed
             required property int index
-            readonly property bool pointedAt: hovered || visualFocus || pressed
 
-            KeyNavigation.left: nextItemInFocusChain(false)
-            KeyNavigation.right: nextItemInFocusChain(true)
             hoverEnabled: true
             opacity: 1
             padding: 8
@@ -32,11 +32,15 @@ Row {
 
             contentItem: RatingStar {
                 color: SystemColors.accent
-                filled: star.index < stars.count
+                filled: star.index < Math.max(stars.given, stars.pointedAt)
             }
 
+            Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            // The star that was left says so after the next has said that it is pointed at.
+            onCandidateChanged: if (candidate || stars.pointedAt === index + 1)
+                stars.pointedAt = candidate ? index + 1 : 0
             onClicked: stars.chosen(index + 1)
-            onPointedAtChanged: stars.count = pointedAt ? index + 1 : 0
         }
     }
 }

@@ -14,6 +14,7 @@ T.Popup {
     anchors.centerIn: T.Overlay.overlay
     bottomPadding: 4
     closePolicy: T.Popup.CloseOnEscape
+    focus: true
     height: column.implicitHeight + topPadding + bottomPadding
     horizontalPadding: Metrics.padding
     topPadding: 20
@@ -26,8 +27,8 @@ T.Popup {
             anchors.margins: -shadowExtent
             cornerRadius: 14
             leftColor: SystemColors.cell
-            shadowExtent: 24
             rightColor: SystemColors.cell
+            shadowExtent: 24
         }
     }
     enter: Transition {
@@ -59,12 +60,13 @@ T.Popup {
             id: title
             font: TextStyles.headline
             horizontalAlignment: Text.AlignHCenter
-            text: ReviewController.thanking ? "Thank you!" : "Enjoying Kovamo?"
+            text: ReviewController.stars > 0 ? "Thank you!" : "Enjoying Kovamo?"
             width: parent.width
         }
         RatingRow {
             anchors.horizontalCenter: parent.horizontalCenter
-            enabled: !ReviewController.thanking
+            enabled: given === 0
+            given: ReviewController.stars
 
             onChosen: stars => ReviewController.rate(stars)
         }
@@ -73,7 +75,8 @@ T.Popup {
         }
         Pressable {
             id: notNow
-            text: "Not Now"
+            focus: true
+            text: ReviewController.stars > 0 ? "Done" : "Not Now"
             width: parent.width
 
             contentItem: PlainText {

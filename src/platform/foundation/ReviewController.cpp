@@ -82,14 +82,14 @@ void ReviewController::setSheetPresented(bool presented) {
     Q_EMIT changed();
 }
 
-void ReviewController::rate(int) {
-    if (!m_scene || m_thanking)
+void ReviewController::rate(int stars) {
+    if (!m_scene || m_stars > 0)
         return;
     // Without slashes: a host would lose its capital letters.
     const QUrl page(QStringLiteral("appstream:org.kovamo.Kovamo"));
     if (hasSoftwareCentre() && QDesktopServices::openUrl(page))
         return dismiss();
-    m_thanking = true;
+    m_stars = stars;
     Q_EMIT changed();
     MainQueue::asyncAfter(thanksDuration, [this] { dismiss(); });
 }
@@ -98,7 +98,7 @@ void ReviewController::dismiss() {
     if (!m_scene)
         return;
     m_scene = nullptr;
-    m_thanking = false;
+    m_stars = 0;
     Q_EMIT changed();
 }
 

@@ -18,8 +18,8 @@ class ReviewController : public QObject {
     QML_SINGLETON
     /// The window in which the prompt stands; null while there is none.
     Q_PROPERTY(QWindow* scene READ scene NOTIFY changed)
-    /// Whether the prompt has been answered and says thanks.
-    Q_PROPERTY(bool thanking READ isThanking NOTIFY changed)
+    /// How many stars the user gave in the prompt that stands and now says thanks; 0 before.
+    Q_PROPERTY(int stars READ stars NOTIFY changed)
     /// Whether the app shows a sheet: kept by its shell. One that opens sends the prompt away.
     Q_PROPERTY(bool sheetPresented READ isSheetPresented WRITE setSheetPresented NOTIFY changed)
 
@@ -32,12 +32,12 @@ class ReviewController : public QObject {
     static void requestReview(QWindow& scene) { shared().present(scene); }
 
     [[nodiscard]] QWindow* scene() const { return m_scene; }
-    [[nodiscard]] bool isThanking() const { return m_thanking; }
+    [[nodiscard]] int stars() const { return m_stars; }
     [[nodiscard]] bool isSheetPresented() const { return m_sheetPresented; }
     void setSheetPresented(bool presented);
 
-    /// The user gives a number of stars: opens the software centre's page of the app, where the
-    /// desktop has one, else says thanks for a moment.
+    /// The user gives a positive number of stars: opens the software centre's page of the app,
+    /// where the desktop has one, else says thanks for a moment.
     Q_INVOKABLE void rate(int stars);
 
     /// The prompt goes without an answer.
@@ -51,7 +51,7 @@ class ReviewController : public QObject {
     void present(QWindow& scene);
 
     QPointer<QWindow> m_scene;
-    bool m_thanking = false;
+    int m_stars = 0;
     bool m_sheetPresented = false;
 };
 
