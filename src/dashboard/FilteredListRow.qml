@@ -16,6 +16,10 @@ Item {
     Accessible.role: Accessible.ListItem
     implicitHeight: line.implicitHeight
 
+    // A row in waiting is nothing to a screen reader.
+    ListView.onPooled: visible = false
+    ListView.onReused: visible = true
+
     TransactionRow {
         id: line
 

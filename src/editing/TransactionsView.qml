@@ -41,6 +41,9 @@ NavigationStack {
             accessibleName: sentence
             focus: ListView.isCurrentItem
 
+            // A row in waiting is nothing to a screen reader.
+            ListView.onPooled: visible = false
+            ListView.onReused: visible = true
             onActiveFocusChanged: if (activeFocus)
                 list.currentIndex = index
             onClicked: screen.open(index)

@@ -68,7 +68,8 @@ Focusable {
         Repeater {
             model: control.labels
 
-            PlainText {
+            // The toolkit's text hands the press on to what scrolls behind it: the tap stands apart.
+            Item {
                 id: segment
 
                 required property string modelData
@@ -79,19 +80,23 @@ Focusable {
                 Accessible.focusable: true
                 Accessible.name: modelData
                 Accessible.role: Accessible.RadioButton
-                font: chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
-                fontSizeMode: Text.HorizontalFit
                 height: parent.height
-                horizontalAlignment: Text.AlignHCenter
-                minimumPointSize: TextStyles.footnote.pointSize / 2
-                opacity: tap.pressed && !chosen ? 0.4 : 1
-                text: modelData
-                verticalAlignment: Text.AlignVCenter
                 width: control.segmentWidth
 
                 Accessible.onPressAction: control.picked(modelData)
                 Accessible.onToggleAction: control.picked(modelData)
 
+                PlainText {
+                    Accessible.ignored: true
+                    anchors.fill: parent
+                    font: segment.chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
+                    fontSizeMode: Text.HorizontalFit
+                    horizontalAlignment: Text.AlignHCenter
+                    minimumPointSize: TextStyles.footnote.pointSize / 2
+                    opacity: tap.pressed && !segment.chosen ? 0.4 : 1
+                    text: segment.modelData
+                    verticalAlignment: Text.AlignVCenter
+                }
                 TapHandler {
                     id: tap
 
