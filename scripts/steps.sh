@@ -1,0 +1,92 @@
+# The steps that ./run, ./test, scripts/lint and .ci/run share; sourced by them with bash. What
+# they say goes to standard error: standard output is the app's.
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+
+# What the app needs to run: the QML modules that its screens import, the plugins that open a
+# window on Wayland and read SVG pictures, and fonts for every script and for emoji.
+run_packages=(
+    fonts-inter
+    fonts-noto-color-emoji
+    fonts-noto-core
+    libqt6svg6
+    qml6-module-qtqml
+    qml6-module-qtqml-workerscript
+    qml6-module-qtquick
+    qml6-module-qtquick-templates
+    qml6-module-qtquick-window
+    qt6-wayland
+)
+
+build_packages=(
+    cmake
+    g++
+    libicu-dev
+    libsqlite3-dev
+    libsqlitecpp-dev
+    ninja-build
+    qt6-base-dev
+    qt6-declarative-dev
+)
+
+test_packages=(libgtest-dev)
+
+lint_packages=(clang-format)
+
+say() {
+    printf '%s\n' "$*" >&2
+}
+
+as_root() {
+    if ((EUID == 0)); then
+        "$@"
+    elif command -v sudo >/dev/null; then
+        sudo "$@"
+    else
+        say "There is no sudo here. Install these packages as root, then try again."
+        return 1
+    fi
+}
+
+apt_install() {
+    as_root env DEBIAN_FRONTEND=noninteractive \
+        apt-get install --yes --quiet --no-install-recommends "$@" >&2
+}
+
+# install_missing package …: installs those that are not there. The package index is fetched
+# anew only where it does not know a package, or knows it by a file that is gone.
+install_missing() {
+    if ! command -v dpkg-query >/dev/null; then
+        say "This is not a Debian system; these packages must be there by other names: $*"
+        return
+    fi
+    local installed package missing=()
+    installed=$(dpkg-query --show --showformat='|${Package} ${db:Status-Status}|' "$@" \
+        2>/dev/null) || true
+    for package; do
+        [[ $installed == *"|$package installed|"* ]] || missing+=("$package")
+    done
+    ((${#missing[@]})) || return 0
+    say "Installing ${missing[*]}"
+    if apt-get install --simulate "${missing[@]}" >/dev/null 2>&1 && apt_install "${missing[@]}"; then
+        return
+    fi
+    as_root apt-get update --quiet >&2 && apt_install "${missing[@]}"
+}
+
+# build preset [target]: configures where that has not been done with the presets as they are,
+# then builds what is out of date. Compilers' work is kept by ccache where it is installed.
+build() {
+    local preset=$1 target=${2:-all}
+    local recipe=$root/build/$preset/build.ninja
+    (
+        cd "$root"
+        if [[ ! $recipe -nt CMakePresets.json ]]; then
+            if command -v ccache >/dev/null; then
+                export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+            fi
+            cmake --preset "$preset"
+        fi
+        cmake --build --preset "$preset" --target "$target"
+    ) >&2
+}
