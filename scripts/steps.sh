@@ -39,11 +39,8 @@ say() {
 as_root() {
     if ((EUID == 0)); then
         "$@"
-    elif command -v sudo >/dev/null; then
-        sudo "$@"
     else
-        say "There is no sudo here. Install these packages as root, then try again."
-        return 1
+        sudo "$@"
     fi
 }
 
@@ -66,6 +63,10 @@ install_missing() {
         [[ $installed == *"|$package installed|"* ]] || missing+=("$package")
     done
     ((${#missing[@]})) || return 0
+    if ((EUID != 0)) && ! command -v sudo >/dev/null; then
+        say "There is no sudo here. Install as root, then try again: ${missing[*]}"
+        return 1
+    fi
     say "Installing ${missing[*]}"
     if apt-get install --simulate "${missing[@]}" >/dev/null 2>&1 && apt_install "${missing[@]}"; then
         return
@@ -73,10 +74,12 @@ install_missing() {
     as_root apt-get update --quiet >&2 && apt_install "${missing[@]}"
 }
 
-# build preset [target]: configures where that has not been done with the presets as they are,
-# then builds what is out of date. Compilers' work is kept by ccache where it is installed.
+# build preset target [option …]: configures, with the options, where that has not been done with the
+# presets as they are, then builds what is out of date. ccache keeps the compiler's work where it is
+# installed.
 build() {
-    local preset=$1 target=${2:-all}
+    local preset=$1 target=$2
+    shift 2
     local recipe=$root/build/$preset/build.ninja
     (
         cd "$root"
@@ -84,7 +87,7 @@ build() {
             if command -v ccache >/dev/null; then
                 export CMAKE_CXX_COMPILER_LAUNCHER=ccache
             fi
-            cmake --preset "$preset"
+            cmake --preset "$preset" "$@"
         fi
         cmake --build --preset "$preset" --target "$target"
     ) >&2
