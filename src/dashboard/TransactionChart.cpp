@@ -20,6 +20,11 @@ constexpr double columnsHeight = 200;
 constexpr double padding = 20;
 constexpr double cornerRadius = 10;
 
+/// The largest amount. Requires a transaction.
+std::int32_t largestAmount(const QList<TransactionPresentation>& transactions) {
+    return std::ranges::max_element(transactions, {}, &TransactionPresentation::amount)->amount;
+}
+
 AnyView layer(const QList<double>& data, SystemColor top) {
     const LinearGradient gradient{{{top}, {SystemColor::yellow}}};
     const ColumnChartStyle style{FilledShape{Capsule{}, gradient}, columnSpacing};
@@ -53,8 +58,7 @@ void TransactionChart::scaleAmounts() {
     negativeChartData.fill(0, columns);
     if (transactions.isEmpty())
         return;
-    const double maxAmount =
-        std::ranges::max(transactions, {}, &TransactionPresentation::amount).amount;
+    const double maxAmount = largestAmount(transactions);
     for (qsizetype i = 0; i < transactions.size(); ++i) {
         const TransactionPresentation& transaction = std::as_const(transactions)[i];
         (transaction.isPositive ? positiveChartData : negativeChartData)[i] =
@@ -88,11 +92,9 @@ QString TransactionChart::sentence() const {
         return {};
     const auto earnings =
         std::ranges::count(transactions, true, &TransactionPresentation::isPositive);
-    const TransactionPresentation& largest =
-        std::ranges::max(transactions, {}, &TransactionPresentation::amount);
     return QStringLiteral("%1, %2: %3 earnings, %4 spendings, largest amount %5")
         .arg(title(), dates(), numberText(earnings), numberText(transactions.size() - earnings),
-             formattedAmount(largest.amount));
+             formattedAmount(largestAmount(transactions)));
 }
 
 AnyView TransactionChart::view() const {
