@@ -68,15 +68,15 @@ install_missing() {
         return 1
     fi
     say "Installing ${missing[*]}"
-    if apt-get install --simulate "${missing[@]}" >/dev/null 2>&1 && apt_install "${missing[@]}"; then
+    if apt-get install --simulate "${missing[@]}" &>/dev/null && apt_install "${missing[@]}"; then
         return
     fi
     as_root apt-get update --quiet >&2 && apt_install "${missing[@]}"
 }
 
-# build preset target [option …]: configures, with the options, where that has not been done with the
-# presets as they are, then builds what is out of date. ccache keeps the compiler's work where it is
-# installed.
+# build preset target [option …]: configures, with the options, where that has not been done with
+# the presets as they are, then builds what is out of date. ccache keeps the compiler's work where
+# it is installed.
 build() {
     local preset=$1 target=$2
     shift 2
