@@ -11,7 +11,8 @@ namespace kovamo {
 [[nodiscard]] QQuickItem* findItem(const QQuickWindow& window,
                                    const std::function<bool(const QQuickItem&)>& fits);
 
-/// The topmost visible text item that reads `text`; null for none, which is a failure if `expected`.
+/// The topmost visible text item that reads `text`; null for none, which is a failure if
+/// `expected`.
 [[nodiscard]] QQuickItem* shown(const QQuickWindow& window, const QString& text,
                                 bool expected = true);
 
