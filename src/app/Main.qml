@@ -14,7 +14,7 @@ Window {
     property bool reducedMotion: false
 
     LayoutMirroring.childrenInherit: true
-    LayoutMirroring.enabled: Qt.application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.enabled: root.mirrored
     color: SystemColors.background
     height: 844
     minimumHeight: 480
@@ -29,7 +29,7 @@ Window {
         value: window.reducedMotion
     }
     Shortcut {
-        sequences: [StandardKey.Quit]
+        sequence: "Ctrl+Q"
 
         onActivated: Qt.quit()
     }
@@ -38,6 +38,8 @@ Window {
         focus: true
         sourceComponent: window.root.onboardingFinished ? mainScreen : onboarding
     }
+    // The toolkit's Loader does not make bound components.
+    // qmllint disable unqualified
     Component {
         id: onboarding
 
@@ -53,6 +55,7 @@ Window {
             digits: window.root.digits
         }
     }
+    // qmllint enable unqualified
     ReviewPrompt {
         sheetPresented: window.root.content.showAddTransaction || window.root.content.showTransactions
     }

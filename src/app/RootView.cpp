@@ -2,6 +2,7 @@
 
 #include "engagement/ReviewHandler.h"
 #include "platform/foundation/Formatters.h"
+#include "platform/foundation/Locale.h"
 #include "platform/foundation/UserDefaults.h"
 
 namespace kovamo {
@@ -21,6 +22,10 @@ RootView::RootView(ManagedObjectContext& viewContext)
 
 QString RootView::onboardingFinishedKey() {
     return QStringLiteral("onboardingFinished");
+}
+
+bool RootView::isMirrored() {
+    return dateLocale().isRightToLeft();
 }
 
 QStringList RootView::digits() {

@@ -18,7 +18,8 @@ class RootView : public QObject {
     Q_PROPERTY(bool onboardingFinished READ onboardingFinished NOTIFY onboardingFinishedChanged)
     Q_PROPERTY(kovamo::OnboardingView* onboarding READ onboarding CONSTANT)
     Q_PROPERTY(kovamo::ContentView* content READ content CONSTANT)
-    Q_PROPERTY(QStringList digits READ digits CONSTANT)
+    Q_PROPERTY(QList<QString> digits READ digits CONSTANT)
+    Q_PROPERTY(bool mirrored READ isMirrored CONSTANT)
 
   public:
     /// Requires: `viewContext` outlives the view.
@@ -30,6 +31,9 @@ class RootView : public QObject {
 
     /// The key of the preferences' flag that the onboarding was finished.
     [[nodiscard]] static QString onboardingFinishedKey();
+
+    /// Whether the user's language runs from right to left, and the screens with it.
+    [[nodiscard]] static bool isMirrored();
 
     /// The digits 0 to 9 as the user's locale writes them.
     [[nodiscard]] static QStringList digits();

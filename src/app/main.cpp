@@ -4,7 +4,6 @@
 #include "RootView.h"
 #include "SampleData.h"
 #include "platform/foundation/DesktopSettings.h"
-#include "platform/foundation/Locale.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QDir>
@@ -82,8 +81,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kovamo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.kovamo.Kovamo"));
 
-    QGuiApplication::setLayoutDirection(dateLocale().isRightToLeft() ? Qt::RightToLeft
-                                                                     : Qt::LeftToRight);
+    QGuiApplication::setLayoutDirection(RootView::isMirrored() ? Qt::RightToLeft : Qt::LeftToRight);
     if (options->appearance)
         SystemColors::shared().setColorScheme(*options->appearance);
     const DesktopSettings desktop(!options->appearance);

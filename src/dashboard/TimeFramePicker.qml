@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Dashboard

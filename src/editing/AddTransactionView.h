@@ -23,11 +23,11 @@ class AddTransactionView : public QObject {
     Q_PROPERTY(QString emoji READ emoji WRITE setEmoji NOTIFY emojiChanged)
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
     Q_PROPERTY(QString amount READ amount WRITE setAmount NOTIFY amountChanged)
-    Q_PROPERTY(QStringList positiveTypes READ positiveTypes CONSTANT)
+    Q_PROPERTY(QList<QString> positiveTypes READ positiveTypes CONSTANT)
     Q_PROPERTY(QString selectedPositive READ selectedPositive WRITE setSelectedPositive NOTIFY
                    selectedPositiveChanged)
     Q_PROPERTY(bool isRecurring READ isRecurring WRITE setIsRecurring NOTIFY isRecurringChanged)
-    Q_PROPERTY(QStringList types READ types CONSTANT)
+    Q_PROPERTY(QList<QString> types READ types CONSTANT)
     Q_PROPERTY(
         QString selectedType READ selectedType WRITE setSelectedType NOTIFY selectedTypeChanged)
     Q_PROPERTY(double startDate READ startDate WRITE setStartDate NOTIFY startDateChanged)

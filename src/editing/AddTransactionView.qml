@@ -12,7 +12,7 @@ GroupedForm {
 
     Shortcut {
         enabled: form.transaction.canSave
-        sequences: [StandardKey.Save]
+        sequence: "Ctrl+S"
 
         onActivated: form.transaction.save()
     }

@@ -3,6 +3,10 @@ import Kovamo.Controls
 import Kovamo.Editing
 import Kovamo.Foundation
 
+// What sheets and stacks make of a component here they make elsewhere, where the toolkit refuses
+// bound ones.
+// qmllint disable unqualified
+
 /*! The screen of all stored transactions, with the form of each behind its row. */
 NavigationStack {
     id: screen
