@@ -77,6 +77,10 @@ std::vector<QRectF> visibleColumnFrames(std::span<const ColumnData> columns, dou
         frames = std::move(tallest);
     }
     std::erase_if(frames, [](const QRectF& frame) { return !(frame.height() > 0); });
+    for (QRectF& frame : frames) {
+        const double missing = std::max(0.0, pixel / 2 - frame.width());
+        frame.adjust(-missing / 2, 0, missing / 2, 0);
+    }
     return frames;
 }
 

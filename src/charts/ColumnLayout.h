@@ -48,7 +48,7 @@ struct ColumnMetrics {
 /// The frames worth painting on a device whose pixels are `pixel` points wide: those of some
 /// height. Where more than two columns crowd into each pixel, the tallest up and the tallest down
 /// of a pixel stand for all in it, as wide as the pixel: a lone peak still shows, and the cost has
-/// a bound.
+/// a bound. A column thinner than half a pixel is widened to it, or it would fade out.
 [[nodiscard]] std::vector<QRectF> visibleColumnFrames(std::span<const ColumnData> columns,
                                                       double spacing, const QRectF& bounds,
                                                       double pixel);
