@@ -81,7 +81,8 @@ void ManagedObjectContext::read(const ManagedObject& object) {
 }
 
 ManagedObject& ManagedObjectContext::insertObject() {
-    ObjectID id = m_store.unusedID();
+    ObjectID id =
+        m_unsaved.inserted.empty() ? m_store.unusedID() : m_unsaved.inserted.back()->objectID() + 1;
     while (m_objects.contains(id))
         ++id;
     ManagedObject& inserted = object(id);

@@ -98,6 +98,17 @@ Value valueOf(const SQLite::Column& column, AttributeType type) {
     Q_UNREACHABLE();
 }
 
+/// Runs a statement with the record's values and its identity; returns how many rows it changed.
+int put(SQLite::Statement& statement, const ManagedObject& object) {
+    int index = 0;
+    for (const Value& value : object.values())
+        bind(statement, ++index, value);
+    statement.bind(++index, object.objectID());
+    const int changed = statement.exec();
+    statement.reset();
+    return changed;
+}
+
 QString sortKeys(const std::vector<SortDescriptor>& descriptors) {
     QStringList keys;
     for (const SortDescriptor& descriptor : descriptors)
@@ -252,15 +263,6 @@ ObjectID Store::unusedID() const {
     });
 }
 
-int Store::put(const QString& sql, const ManagedObject& object) {
-    SQLite::Statement statement(*m_database, utf8(sql));
-    int index = 0;
-    for (const Value& value : object.values())
-        bind(statement, ++index, value);
-    statement.bind(++index, object.objectID());
-    return statement.exec();
-}
-
 void Store::write(const ObjectChanges& changes) {
     const QString insertion = u"INSERT INTO " + m_table + u" (" + m_columns.join(u',') +
                               u",pk) VALUES (" + QStringLiteral("?,").repeated(m_columns.size()) +
@@ -268,17 +270,19 @@ void Store::write(const ObjectChanges& changes) {
     const QString update =
         u"UPDATE " + m_table + u" SET " + m_columns.join(QStringLiteral("=?,")) + u"=? WHERE pk=?";
     guarded(m_path, [&] {
+        SQLite::Statement inserting(*m_database, utf8(insertion));
+        SQLite::Statement updating(*m_database, utf8(update));
+        SQLite::Statement deleting(*m_database, utf8(u"DELETE FROM " + m_table + u" WHERE pk=?"));
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
         for (const ManagedObject* object : changes.inserted)
-            put(insertion, *object);
+            put(inserting, *object);
         for (const ManagedObject* object : changes.updated)
-            if (put(update, *object) == 0)
-                put(insertion, *object); // another writer deleted it: an edit is never lost
-        SQLite::Statement deletion(*m_database, utf8(u"DELETE FROM " + m_table + u" WHERE pk=?"));
+            if (put(updating, *object) == 0)
+                put(inserting, *object); // another writer deleted it: an edit is never lost
         for (const ManagedObject* object : changes.deleted) {
-            deletion.bind(1, object->objectID());
-            deletion.exec();
-            deletion.reset();
+            deleting.bind(1, object->objectID());
+            deleting.exec();
+            deleting.reset();
         }
         transaction.commit();
     });

@@ -45,7 +45,6 @@ class Store {
     void createSchema();
     [[nodiscard]] SQLite::Statement prepared(const QString& selection,
                                              const FetchRequest& request) const;
-    int put(const QString& sql, const ManagedObject& object);
 
     QString m_path;
     const EntityDescription& m_entity;
