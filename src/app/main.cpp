@@ -62,8 +62,9 @@ int main(int argc, char** argv) {
         return usageError;
     }
     if (options->wantsHelp || options->wantsVersion) {
-        std::printf("%s\n",
-                    qPrintable(options->wantsHelp ? usage() : QStringLiteral("Kovamo 1.0.0")));
+        std::printf(
+            "%s\n",
+            qPrintable(options->wantsHelp ? usage() : QStringLiteral("Kovamo " KOVAMO_VERSION)));
         return 0;
     }
 
@@ -84,7 +85,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setLayoutDirection(RootView::isMirrored() ? Qt::RightToLeft : Qt::LeftToRight);
     if (options->appearance)
         SystemColors::shared().setColorScheme(*options->appearance);
-    const DesktopSettings desktop(!options->appearance);
+    DesktopSettings desktop(!options->appearance);
 
     if (options->isGallery)
         return showGallery();
