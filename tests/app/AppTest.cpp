@@ -55,7 +55,7 @@ class Visit {
     }
 
   private:
-    static bool soon(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 5000); }
+    static bool soon(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 30000); }
     [[nodiscard]] bool isShown(const char* text) const {
         return shown(*m_window, QString::fromUtf8(text), false) != nullptr;
     }

@@ -39,7 +39,7 @@ class Stage {
     void type(const QString& text) { kovamo::type(text); }
     /// Whether `condition` comes true while the window lives on.
     [[nodiscard]] static bool soon(const std::function<bool()>& condition) {
-        return QTest::qWaitFor(condition, 5000);
+        return QTest::qWaitFor(condition, 30000);
     }
 
   private:
