@@ -22,7 +22,7 @@ struct Period {
 struct MonthSlot {
     Instant slotStart;
     Instant slotEnd;
-    int startMonth;
+    int startMonth = 1;
 };
 
 /// The bounds of `timeFrame` as of now, in the user's calendar and zone: from the first moment of
