@@ -16,7 +16,6 @@ class ManagedObject {
     Q_DISABLE_COPY_MOVE(ManagedObject)
 
     [[nodiscard]] ObjectID objectID() const { return m_objectID; }
-    [[nodiscard]] ManagedObjectContext& context() const { return m_context; }
 
     /// Whether the record was deleted from its context, saved or not.
     [[nodiscard]] bool isDeleted() const { return m_isDeleted; }

@@ -18,8 +18,6 @@ class PersistentContainer {
     ~PersistentContainer();
     Q_DISABLE_COPY_MOVE(PersistentContainer)
 
-    [[nodiscard]] const QString& name() const { return m_name; }
-
     /// Where the store lies.
     [[nodiscard]] QString storePath() const;
 
