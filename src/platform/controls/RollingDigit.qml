@@ -1,4 +1,3 @@
-pragma ComponentBehavior: Bound
 import QtQuick
 
 /*! One place of a rolling number: a digit, or any other character, which just shows. */
@@ -22,7 +21,7 @@ Item {
     width: plain.implicitWidth
 
     Behavior on shown  {
-        enabled: place.rolls
+        enabled: place.rolls && !Motion.reduced
 
         NumberAnimation {
             id: roll
@@ -42,21 +41,15 @@ Item {
         text: place.character
         visible: !place.rolling
     }
-    Column {
+    PlainText {
+        Accessible.ignored: true
+        color: place.color
+        elide: Text.ElideNone
+        font: place.font
+        lineHeight: place.height
+        lineHeightMode: Text.FixedHeight
+        maximumLineCount: 10
+        text: place.rolling ? Array.from(place.digits).join("\n") : ""
         y: -place.shown * place.height
-
-        Repeater {
-            model: place.rolling ? place.digits : []
-
-            PlainText {
-                required property string modelData
-
-                Accessible.ignored: true
-                color: place.color
-                elide: Text.ElideNone
-                font: place.font
-                text: modelData
-            }
-        }
     }
 }
