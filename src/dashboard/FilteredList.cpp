@@ -1,13 +1,12 @@
 #include "FilteredList.h"
 
-#include "editing/TransactionsView.h"
-#include "model/Transaction.h"
+#include "editing/TransactionLine.h"
 
 #include <algorithm>
 
 namespace kovamo {
 
-const std::vector<TransactionPresentation>& FilteredList::transactions() const {
+const QList<TransactionPresentation>& FilteredList::transactions() const {
     return m_transactionContainer->transactions();
 }
 
@@ -46,30 +45,19 @@ int FilteredList::rowCount(const QModelIndex& parent) const {
 
 QVariant FilteredList::data(const QModelIndex& index, int role) const {
     const int place = index.row() < m_gapStart ? index.row() : index.row() + m_gapSize;
-    const TransactionPresentation& row = transactions().at(static_cast<std::size_t>(place));
+    const TransactionPresentation& row = transactions().at(place);
     switch (role) {
-    case EmojiRole:
-        return required(row.id, row.emoji, "emoji");
-    case TitleRole:
-        return required(row.id, row.title, "title");
-    case AmountRole:
-        return signedAmount(row.isPositive, row.amount);
+    case LineRole:
+        return QVariant::fromValue(TransactionLine(row));
     case HasDividerRole:
         return row != transactions().back();
-    case SentenceRole:
-        return transactionSentence(required(row.id, row.title, "title"), row.isPositive, row.amount,
-                                   row.isRecurring == true);
     default:
         return {};
     }
 }
 
 QHash<int, QByteArray> FilteredList::roleNames() const {
-    return {{EmojiRole, "emoji"},
-            {TitleRole, "title"},
-            {AmountRole, "amount"},
-            {HasDividerRole, "hasDivider"},
-            {SentenceRole, "sentence"}};
+    return {{LineRole, "line"}, {HasDividerRole, "hasDivider"}};
 }
 
 } // namespace kovamo

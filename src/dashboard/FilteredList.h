@@ -15,7 +15,8 @@ class FilteredList : public QAbstractListModel {
     QML_UNCREATABLE("Made by the main screen")
 
   public:
-    enum Role { EmojiRole = Qt::UserRole, TitleRole, AmountRole, HasDividerRole, SentenceRole };
+    /// Of a row's TransactionLine, and whether a divider follows it.
+    enum Role { LineRole = Qt::UserRole, HasDividerRole };
 
     /// Shows `container`, loaded, in place of the one before: rows that both have stay.
     void setTransactionContainer(std::unique_ptr<TransactionContainer> container);
@@ -25,7 +26,7 @@ class FilteredList : public QAbstractListModel {
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
   private:
-    [[nodiscard]] const std::vector<TransactionPresentation>& transactions() const;
+    [[nodiscard]] const QList<TransactionPresentation>& transactions() const;
 
     std::unique_ptr<TransactionContainer> m_transactionContainer =
         std::make_unique<TransactionContainer>();

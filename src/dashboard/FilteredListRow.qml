@@ -6,27 +6,21 @@ import Kovamo.Editing
 Item {
     id: row
 
-    required property string emoji
-    required property string title
-    required property string amount
+    required property transactionLine line
     required property bool hasDivider
-    required property string sentence
 
-    Accessible.name: sentence
+    Accessible.name: line.sentence
     Accessible.role: Accessible.ListItem
-    implicitHeight: line.implicitHeight
+    implicitHeight: words.implicitHeight
 
     // A row in waiting is nothing to a screen reader.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
 
     TransactionRow {
-        id: line
+        id: words
 
-        amount: row.amount
-        emoji: row.emoji
-        isRecurring: false
-        title: row.title
+        line: row.line
         width: row.width
     }
     Divider {

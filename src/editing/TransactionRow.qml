@@ -1,15 +1,15 @@
 import QtQuick
 import Kovamo.Controls
+import Kovamo.Editing
 import Kovamo.Foundation
 
 /*! The line that stands for a transaction: emoji, title, the mark of a recurrence, the amount. */
 Item {
     id: row
 
-    required property string emoji
-    required property string title
-    required property bool isRecurring
-    required property string amount
+    required property transactionLine line
+    /*! Whether the mark is shown on what recurs. */
+    property bool marksRecurring: false
 
     implicitHeight: Math.max(Metrics.rowHeight, titleText.implicitHeight + Metrics.step * 4)
 
@@ -20,7 +20,7 @@ Item {
         anchors.left: parent.left
         anchors.leftMargin: Metrics.padding
         anchors.verticalCenter: parent.verticalCenter
-        text: row.emoji
+        text: row.line.emoji
         width: Math.min(implicitWidth, row.width / 4)
     }
     PlainText {
@@ -30,7 +30,7 @@ Item {
         anchors.left: emojiText.right
         anchors.leftMargin: Metrics.step * 2
         anchors.verticalCenter: parent.verticalCenter
-        text: row.title
+        text: row.line.title
         width: Math.min(implicitWidth, amountText.x - x - Metrics.step * 2 - (symbol.visible ? symbol.width + Metrics.step * 2 : 0))
     }
     SystemImage {
@@ -42,7 +42,7 @@ Item {
         color: SystemColors.label
         height: 20
         name: "arrow.triangle.2.circlepath.circle"
-        visible: row.isRecurring
+        visible: row.marksRecurring && row.line.isRecurring
         width: 20
     }
     PlainText {
@@ -52,6 +52,6 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Metrics.padding
         anchors.verticalCenter: parent.verticalCenter
-        text: row.amount
+        text: row.line.amount
     }
 }

@@ -1,6 +1,6 @@
 #include "TransactionsView.h"
 
-#include "platform/foundation/Formatters.h"
+#include "TransactionLine.h"
 #include "platform/objectstore/StoreError.h"
 
 namespace kovamo {
@@ -14,21 +14,6 @@ FetchRequest largestFirst() {
 }
 
 } // namespace
-
-QString formattedAmount(std::int32_t amount) {
-    return currencyText(amount);
-}
-
-QString signedAmount(bool isPositive, std::int32_t amount) {
-    return QLatin1String(isPositive ? "+ " : "- ") + formattedAmount(amount);
-}
-
-QString transactionSentence(const QString& title, bool isPositive, std::int32_t amount,
-                            bool isRecurring) {
-    return QStringLiteral("%1, %2, %3%4")
-        .arg(title, QLatin1String(isPositive ? "earning" : "spending"), formattedAmount(amount),
-             QLatin1String(isRecurring ? ", recurring" : ""));
-}
 
 TransactionsView::TransactionsView(ManagedObjectContext& viewContext)
     : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext) {}
@@ -59,30 +44,14 @@ void TransactionsView::remove(const QList<int>& rows) {
 }
 
 QVariant TransactionsView::data(const QModelIndex& index, int role) const {
-    const Transaction& record = transaction(index.row());
-    switch (role) {
-    case EmojiRole:
-        return required(record.id(), record.emoji(), "emoji");
-    case TitleRole:
-        return required(record.id(), record.title(), "title");
-    case IsRecurringRole:
-        return record.isRecurring();
-    case AmountRole:
-        return signedAmount(record.isPositive(), record.amount());
-    case SentenceRole:
-        return transactionSentence(required(record.id(), record.title(), "title"),
-                                   record.isPositive(), record.amount(), record.isRecurring());
-    default:
+    if (role != LineRole)
         return {};
-    }
+    const TransactionPresentation presentation(transaction(index.row()));
+    return QVariant::fromValue(TransactionLine(presentation));
 }
 
 QHash<int, QByteArray> TransactionsView::roleNames() const {
-    return {{EmojiRole, "emoji"},
-            {TitleRole, "title"},
-            {IsRecurringRole, "isRecurring"},
-            {AmountRole, "amount"},
-            {SentenceRole, "sentence"}};
+    return {{LineRole, "line"}};
 }
 
 } // namespace kovamo

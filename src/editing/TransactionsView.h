@@ -8,16 +8,6 @@
 
 namespace kovamo {
 
-/// A whole amount as money in the user's locale, without a fraction.
-[[nodiscard]] QString formattedAmount(std::int32_t amount);
-
-/// An amount with its direction: "+ " or "- " and the money text.
-[[nodiscard]] QString signedAmount(bool isPositive, std::int32_t amount);
-
-/// A transaction as a screen reader says it: "Groceries, spending, $42, recurring".
-[[nodiscard]] QString transactionSentence(const QString& title, bool isPositive,
-                                          std::int32_t amount, bool isRecurring);
-
 /// The screen of all stored transactions, largest amount first: a list that follows the store.
 class TransactionsView : public LiveFetch {
     Q_OBJECT
@@ -27,7 +17,8 @@ class TransactionsView : public LiveFetch {
     Q_PROPERTY(kovamo::AddTransactionView* form READ form NOTIFY formChanged)
 
   public:
-    enum Role { EmojiRole = Qt::UserRole, TitleRole, IsRecurringRole, AmountRole, SentenceRole };
+    /// Of a row's TransactionLine.
+    static constexpr int LineRole = Qt::UserRole;
 
     /// Requires: `viewContext` outlives the screen.
     explicit TransactionsView(ManagedObjectContext& viewContext);

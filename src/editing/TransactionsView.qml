@@ -36,13 +36,9 @@ NavigationStack {
             id: row
 
             required property int index
-            required property string emoji
-            required property string title
-            required property bool isRecurring
-            required property string amount
-            required property string sentence
+            required property transactionLine line
 
-            accessibleName: sentence
+            accessibleName: line.sentence
             focus: ListView.isCurrentItem
 
             // A row in waiting is nothing to a screen reader.
@@ -54,10 +50,8 @@ NavigationStack {
             onDeleteRequested: screen.transactions.remove([index])
 
             TransactionRow {
-                amount: row.amount
-                emoji: row.emoji
-                isRecurring: row.isRecurring
-                title: row.title
+                line: row.line
+                marksRecurring: true
                 width: row.width
             }
             Divider {

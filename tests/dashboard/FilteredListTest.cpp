@@ -1,4 +1,5 @@
 #include "dashboard/FilteredList.h"
+#include "editing/TransactionLine.h"
 #include "support/Book.h"
 
 #include <QAbstractItemModelTester>
@@ -14,10 +15,14 @@ std::unique_ptr<TransactionContainer> loaded(Book& book, TimeFrame timeFrame) {
     return container;
 }
 
+TransactionLine lineOf(const FilteredList& list, int row) {
+    return list.data(list.index(row), FilteredList::LineRole).value<TransactionLine>();
+}
+
 std::string rows(const FilteredList& list) {
     std::string rows;
     for (int row = 0; row < list.rowCount(); ++row) {
-        rows += list.data(list.index(row), FilteredList::AmountRole).toString().toStdString();
+        rows += lineOf(list, row).amount.toStdString();
         rows += list.data(list.index(row), FilteredList::HasDividerRole).toBool() ? " | " : ".";
     }
     return rows;
@@ -34,8 +39,7 @@ TEST(FilteredList, ShowsSignedAmountsAndDividersBetweenThem) {
     book.add({100, "2020-01-01", "monthly"});
     list.setTransactionContainer(loaded(book, 2));
     EXPECT_EQ(rows(list), "+ $1,200 | + $300 | - $7.");
-    EXPECT_EQ(list.data(list.index(1), FilteredList::SentenceRole).toString(),
-              u"title, earning, $300, recurring");
+    EXPECT_EQ(lineOf(list, 1).sentence, u"title, earning, $300, recurring");
 }
 
 TEST(FilteredList, FollowsAnyChangeRowByRow) {

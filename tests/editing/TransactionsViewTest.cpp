@@ -1,4 +1,5 @@
 #include "editing/TransactionsView.h"
+#include "editing/TransactionLine.h"
 #include "support/Book.h"
 
 #include <gtest/gtest.h>
@@ -6,10 +7,14 @@
 namespace kovamo {
 namespace {
 
+TransactionLine lineOf(const TransactionsView& screen, int row) {
+    return screen.data(screen.index(row), TransactionsView::LineRole).value<TransactionLine>();
+}
+
 QStringList amounts(const TransactionsView& screen) {
     QStringList amounts;
     for (int row = 0; row < screen.rowCount(); ++row)
-        amounts.append(screen.data(screen.index(row), TransactionsView::AmountRole).toString());
+        amounts.append(lineOf(screen, row).amount);
     return amounts;
 }
 
@@ -20,10 +25,8 @@ TEST(TransactionsView, ListsEverythingLargestFirst) {
                {1234, "2024-01-01", "monthly"}});
     const TransactionsView screen(book.context);
     EXPECT_EQ(amounts(screen), (QStringList{"+ $1,234", "- $500", "+ $300"}));
-    EXPECT_EQ(screen.data(screen.index(0), TransactionsView::SentenceRole).toString(),
-              u"title, earning, $1,234, recurring");
-    EXPECT_EQ(screen.data(screen.index(1), TransactionsView::SentenceRole).toString(),
-              u"title, spending, $500");
+    EXPECT_EQ(lineOf(screen, 0).sentence, u"title, earning, $1,234, recurring");
+    EXPECT_EQ(lineOf(screen, 1).sentence, u"title, spending, $500");
     book.add({400});
     book.context.save();
     EXPECT_EQ(amounts(screen), (QStringList{"+ $1,234", "- $500", "+ $400", "+ $300"}));
@@ -50,8 +53,7 @@ TEST(TransactionsViewDeathTest, StopsOverARecordThatCannotBeShown) {
     Book book({{5}});
     book.context.fetch<Transaction>(Transaction::fetchRequest()).at(0)->setEmoji({});
     const TransactionsView screen(book.context);
-    EXPECT_DEATH((void)screen.data(screen.index(0), TransactionsView::EmojiRole),
-                 "The transaction [0-9a-f-]{36} has no emoji");
+    EXPECT_DEATH((void)lineOf(screen, 0), "The transaction [0-9a-f-]{36} has no emoji");
 }
 
 } // namespace

@@ -1,0 +1,35 @@
+#include "TransactionLine.h"
+
+#include "model/Transaction.h"
+#include "platform/foundation/Formatters.h"
+
+namespace kovamo {
+
+namespace {
+
+QString withDirection(bool isPositive, const QString& money) {
+    return QLatin1String(isPositive ? "+ " : "- ") + money;
+}
+
+} // namespace
+
+QString formattedAmount(std::int32_t amount) {
+    return currencyText(amount);
+}
+
+QString signedAmount(bool isPositive, std::int32_t amount) {
+    return withDirection(isPositive, formattedAmount(amount));
+}
+
+TransactionLine::TransactionLine(const TransactionPresentation& transaction)
+    : emoji(required(transaction.id, transaction.emoji, "emoji")),
+      title(required(transaction.id, transaction.title, "title")),
+      isRecurring(transaction.isRecurring == true) {
+    const QString money = formattedAmount(transaction.amount);
+    amount = withDirection(transaction.isPositive, money);
+    sentence = QStringLiteral("%1, %2, %3%4")
+                   .arg(title, QLatin1String(transaction.isPositive ? "earning" : "spending"),
+                        money, QLatin1String(isRecurring ? ", recurring" : ""));
+}
+
+} // namespace kovamo

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "model/TransactionPresentation.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace kovamo {
+
+/// A whole amount as money in the user's locale, without a fraction.
+[[nodiscard]] QString formattedAmount(std::int32_t amount);
+
+/// An amount with its direction: "+ " or "- " and the money text.
+[[nodiscard]] QString signedAmount(bool isPositive, std::int32_t amount);
+
+/// What a row of a list shows of a transaction.
+struct TransactionLine {
+    Q_GADGET
+    QML_VALUE_TYPE(transactionLine)
+    Q_PROPERTY(QString emoji MEMBER emoji)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(bool isRecurring MEMBER isRecurring)
+    Q_PROPERTY(QString amount MEMBER amount)
+    Q_PROPERTY(QString sentence MEMBER sentence)
+
+  public:
+    TransactionLine() = default;
+
+    /// A transaction without emoji or title is a fatal error.
+    explicit TransactionLine(const TransactionPresentation& transaction);
+
+    QString emoji;
+    QString title;
+    bool isRecurring = false;
+    /// The amount with its direction.
+    QString amount;
+    /// The row as a screen reader says it: "Groceries, spending, $42, recurring".
+    QString sentence;
+};
+
+} // namespace kovamo
