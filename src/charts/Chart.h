@@ -18,6 +18,8 @@ struct Chart {
     /// A chart of one series: each value becomes a row of its own, as it is.
     template<Series R>
     explicit Chart(R&& series) {
+        if constexpr (std::ranges::sized_range<R>)
+            configuration.dataMatrix.reserve(std::ranges::size(series));
         for (const auto value : series)
             configuration.dataMatrix.push_back({static_cast<double>(value)});
     }

@@ -31,9 +31,7 @@ QString withoutDigit(QString one) {
 } // namespace
 
 Banner::Banner(ManagedObjectContext& context, TimeFrame selectedTimeFrame) : viewContext(&context) {
-    gatherTransactions(selectedTimeFrame, context, [this](TransactionPresentation presentation) {
-        transactions.push_back(std::move(presentation));
-    });
+    gatherTransactions(selectedTimeFrame, context, transactions);
     std::int64_t sum = 0;
     for (const TransactionPresentation& presentation : std::as_const(transactions)) {
         const std::int64_t amount = presentation.amount;

@@ -3,8 +3,10 @@
 #include "charts/Chart.h"
 #include "charts/ColumnChartStyle.h"
 #include "charts/ColumnLayout.h"
-#include "editing/TransactionsView.h"
+#include "editing/TransactionLine.h"
+#include "model/Transaction.h"
 #include "platform/foundation/Formatters.h"
+#include "platform/foundation/RadixSort.h"
 #include "platform/views/ShapeViews.h"
 
 #include <algorithm>
@@ -43,11 +45,10 @@ TransactionChart::TransactionChart(ManagedObjectContext& context, TimeFrame time
     const QString year = QStringLiteral("y");
     if (localizedDateText(startDate, year) != localizedDateText(endDate, year))
         stackDateFormat = QStringLiteral("MM/dd/yy");
-    gatherTransactions(timeFrame, context, [this](TransactionPresentation presentation) {
-        transactions.push_back(std::move(presentation));
-    });
-    std::ranges::stable_sort(transactions, {}, [](const TransactionPresentation& transaction) {
-        return required(transaction.id, transaction.startDate, "startDate");
+    gatherTransactions(timeFrame, context, transactions);
+    transactions = radixSorted(std::move(transactions), [](const auto& transaction) {
+        const Instant start = required(transaction.id, transaction.startDate, "startDate");
+        return sortKey(start.time_since_epoch().count());
     });
     scaleAmounts();
 }

@@ -1,10 +1,10 @@
 #include "TransactionContainer.h"
 
 #include "Recurrence.h"
+#include "platform/foundation/RadixSort.h"
 #include "platform/objectstore/StoreError.h"
 
-#include <algorithm>
-#include <ranges>
+#include <iterator>
 
 namespace kovamo {
 
@@ -24,35 +24,37 @@ std::vector<Transaction*> fetched(ManagedObjectContext& context, Predicate predi
 } // namespace
 
 void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
-                        const std::function<void(TransactionPresentation)>& append) {
+                        QList<TransactionPresentation>& list,
+                        const std::function<void()>& willAppend) {
     const auto [start, end] = periodBounds(timeFrame);
-    const Predicate oneOff(
-        QStringLiteral("startDate >= %@ AND startDate < %@ AND isRecurring == NO"), {start, end});
-    for (const Transaction* transaction : fetched(context, oneOff))
-        append(TransactionPresentation(*transaction));
+    const auto oneOff = fetched(
+        context,
+        Predicate(QStringLiteral("startDate >= %@ AND startDate < %@ AND isRecurring == NO"),
+                  {start, end}));
+    list.reserve(list.size() + std::ssize(oneOff));
+    for (const Transaction* transaction : oneOff) {
+        willAppend();
+        list.emplace_back(*transaction);
+    }
 
-    const Predicate recurring(QStringLiteral("isRecurring == YES"));
     const std::vector<MonthSlot> slots = monthSlots(timeFrame);
     const Calendar calendar;
-    for (const Transaction* transaction : fetched(context, recurring))
-        if (auto presentation = expanded(*transaction, slots, calendar))
-            append(std::move(*presentation));
+    for (const Transaction* transaction :
+         fetched(context, Predicate(QStringLiteral("isRecurring == YES"))))
+        if (const auto presentation = expanded(*transaction, slots, calendar)) {
+            willAppend();
+            list.append(*presentation);
+        }
 }
 
 void TransactionContainer::fetchTransactions(TimeFrame timeFrame, ManagedObjectContext& context) {
-    setTransactions({});
-    gatherTransactions(timeFrame, context, [this](TransactionPresentation presentation) {
-        Q_EMIT objectWillChange();
-        m_transactions.push_back(std::move(presentation));
-    });
-    std::vector<TransactionPresentation> sorted = m_transactions;
-    std::ranges::stable_sort(sorted, std::ranges::greater{}, &TransactionPresentation::amount);
-    setTransactions(std::move(sorted));
-}
-
-void TransactionContainer::setTransactions(std::vector<TransactionPresentation> transactions) {
     Q_EMIT objectWillChange();
-    m_transactions = std::move(transactions);
+    m_transactions.clear();
+    gatherTransactions(timeFrame, context, m_transactions, [this] { Q_EMIT objectWillChange(); });
+    Q_EMIT objectWillChange();
+    m_transactions = radixSorted(std::move(m_transactions), [](const auto& transaction) {
+        return ~sortKey(transaction.amount);
+    });
 }
 
 } // namespace kovamo

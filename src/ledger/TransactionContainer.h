@@ -4,17 +4,18 @@
 #include "model/TransactionPresentation.h"
 #include "platform/objectstore/ManagedObjectContext.h"
 
+#include <QList>
 #include <QObject>
 #include <functional>
-#include <vector>
 
 namespace kovamo {
 
-/// Hands `append` the transactions of `timeFrame`: first the one-off ones that start in its period,
-/// then what the recurring ones contribute to its months, each in the store's order. A fetch that
-/// fails contributes nothing.
-void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
-                        const std::function<void(TransactionPresentation)>& append);
+/// Appends to `list` the transactions of `timeFrame`: first the one-off ones that start in its
+/// period, then what the recurring ones contribute to its months, each in the store's order. A
+/// fetch that fails contributes nothing. `willAppend` is called before each.
+void gatherTransactions(
+    TimeFrame timeFrame, ManagedObjectContext& context, QList<TransactionPresentation>& list,
+    const std::function<void()>& willAppend = [] {});
 
 /// The transactions of a period as a list that can be observed.
 class TransactionContainer : public QObject {
@@ -22,7 +23,7 @@ class TransactionContainer : public QObject {
 
   public:
     /// The period's transactions, largest amount first, equal amounts as they were gathered.
-    [[nodiscard]] const std::vector<TransactionPresentation>& transactions() const {
+    [[nodiscard]] const QList<TransactionPresentation>& transactions() const {
         return m_transactions;
     }
 
@@ -34,9 +35,7 @@ class TransactionContainer : public QObject {
     void objectWillChange();
 
   private:
-    void setTransactions(std::vector<TransactionPresentation> transactions);
-
-    std::vector<TransactionPresentation> m_transactions;
+    QList<TransactionPresentation> m_transactions;
 };
 
 } // namespace kovamo

@@ -37,6 +37,8 @@ struct TransactionPresentation {
 
 } // namespace kovamo
 
+Q_DECLARE_TYPEINFO(kovamo::TransactionPresentation, Q_RELOCATABLE_TYPE);
+
 template<>
 struct std::hash<kovamo::TransactionPresentation> {
     std::size_t operator()(const kovamo::TransactionPresentation& value) const noexcept;

@@ -6,16 +6,13 @@
 
 namespace kovamo {
 
-std::span<const Value> ManagedObject::values() const {
-    if (m_values.empty() || m_isStale) {
-        try {
-            m_context.read(*this);
-        } catch (const StoreError& error) {
-            fatalError(QStringLiteral("A record cannot be read: %1, %2")
-                           .arg(error.description(), error.userInfoDescription()));
-        }
+void ManagedObject::read() const {
+    try {
+        m_context.read(*this);
+    } catch (const StoreError& error) {
+        fatalError(QStringLiteral("A record cannot be read: %1, %2")
+                       .arg(error.description(), error.userInfoDescription()));
     }
-    return m_values;
 }
 
 void ManagedObject::setValue(std::size_t index, Value value) {

@@ -21,7 +21,11 @@ class ManagedObject {
     [[nodiscard]] bool isDeleted() const { return m_isDeleted; }
 
     /// The values of all attributes, in the entity's order.
-    [[nodiscard]] std::span<const Value> values() const;
+    [[nodiscard]] std::span<const Value> values() const {
+        if (m_values.empty() || m_isStale)
+            read();
+        return m_values;
+    }
 
     /// Sets the attribute at `index`. Requires: `value` absent or of the attribute's type.
     void setValue(std::size_t index, Value value);
@@ -51,6 +55,8 @@ class ManagedObject {
 
   private:
     friend class ManagedObjectContext;
+
+    void read() const;
 
     ManagedObjectContext& m_context;
     ObjectID m_objectID;

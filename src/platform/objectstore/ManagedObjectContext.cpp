@@ -63,13 +63,6 @@ ManagedObject& ManagedObjectContext::object(ObjectID id) {
     return *object;
 }
 
-ManagedObject& ManagedObjectContext::loadedObject(ObjectID id) {
-    ManagedObject& loaded = object(id);
-    if (loaded.m_values.empty() || loaded.m_isStale)
-        read(loaded);
-    return loaded;
-}
-
 void ManagedObjectContext::read(const ManagedObject& object) {
     std::vector<Value> values = m_store.read(object.objectID());
     if (values.empty() && object.m_values.empty())

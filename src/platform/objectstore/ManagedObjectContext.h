@@ -48,8 +48,12 @@ class ManagedObjectContext : public QObject {
         const std::vector<ObjectID> ids = fetchIDs(request);
         std::vector<T*> objects;
         objects.reserve(ids.size());
-        for (const ObjectID id : ids)
-            objects.push_back(static_cast<T*>(&loadedObject(id)));
+        for (const ObjectID id : ids) {
+            ManagedObject& found = object(id);
+            if (found.m_values.empty() || found.m_isStale)
+                read(found);
+            objects.push_back(static_cast<T*>(&found));
+        }
         return objects;
     }
 
@@ -83,7 +87,6 @@ class ManagedObjectContext : public QObject {
     friend class ManagedObject;
 
     ManagedObject& insertObject();
-    ManagedObject& loadedObject(ObjectID id);
     void read(const ManagedObject& object);
     void didUpdate(ManagedObject& object);
     void announceLater(std::vector<ManagedObject*>& changes, ManagedObject& object);

@@ -2,6 +2,7 @@
 
 #include "ManagedObjectContext.h"
 #include "StoreError.h"
+#include "platform/foundation/RadixSort.h"
 
 #include <QFileInfo>
 #include <SQLiteCpp/Transaction.h>
@@ -87,7 +88,7 @@ Value valueOf(const SQLite::Column& column, AttributeType type) {
     case AttributeType::boolean:
         return column.getInt() != 0;
     case AttributeType::string:
-        return QString::fromStdString(column.getString());
+        return QString::fromUtf8(column.getText(), column.size());
     case AttributeType::date:
         return Instant(std::chrono::milliseconds(column.getInt64()));
     case AttributeType::uuid: {
@@ -143,7 +144,8 @@ Store::Store(const QString& path, const EntityDescription& entity)
         m_columns.append(quoted(attribute.name));
     makeFile(path);
     guarded(path, [&] {
-        m_database.emplace(utf8(path), SQLite::OPEN_READWRITE, busyTimeoutMilliseconds);
+        m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
+                           busyTimeoutMilliseconds);
         sqlite3* handle = m_database->getHandle();
         // A misspelt column must be an error, never a text constant.
         sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
@@ -225,7 +227,7 @@ std::vector<ObjectID> Store::select(const FetchRequest& request) const {
             ids.push_back(statement.getColumn(0).getInt64());
         // Sorting here costs less than making SQLite sort what it walks by another index.
         if (request.sortDescriptors.empty())
-            std::ranges::sort(ids);
+            radixSort(ids, sortKey<ObjectID>);
         return ids;
     });
 }
@@ -248,12 +250,23 @@ std::vector<Value> Store::read(ObjectID id) {
         if (m_readRow->executeStep()) {
             values.reserve(m_entity.attributes.size());
             int index = 0;
-            for (const AttributeDescription& attribute : m_entity.attributes)
+            for (const AttributeDescription& attribute : m_entity.attributes) {
                 values.push_back(valueOf(m_readRow->getColumn(index++), attribute.type));
+                if (auto* text = std::get_if<QString>(&values.back()))
+                    *text = shared(*text);
+            }
         }
         m_readRow->reset();
         return values;
     });
+}
+
+QString Store::shared(const QString& text) {
+    constexpr qsizetype most = 1000;
+    const auto known = m_texts.constFind(text);
+    if (known != m_texts.constEnd())
+        return *known;
+    return m_texts.size() < most ? *m_texts.insert(text) : text;
 }
 
 ObjectID Store::unusedID() const {

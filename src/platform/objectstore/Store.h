@@ -2,6 +2,7 @@
 
 #include "FetchRequest.h"
 
+#include <QSet>
 #include <QStringList>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Statement.h>
@@ -46,6 +47,8 @@ class Store {
     [[nodiscard]] SQLite::Statement prepared(const QString& selection,
                                              const FetchRequest& request) const;
 
+    [[nodiscard]] QString shared(const QString& text);
+
     QString m_path;
     const EntityDescription& m_entity;
     QString m_table;
@@ -54,6 +57,8 @@ class Store {
     std::optional<SQLite::Statement> m_readRow;
     std::optional<SQLite::Statement> m_dataVersion;
     int m_lastDataVersion = 0;
+    // Texts that many records have in common are held once.
+    QSet<QString> m_texts;
 };
 
 } // namespace kovamo
