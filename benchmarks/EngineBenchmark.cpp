@@ -1,0 +1,202 @@
+// What the app's engine costs with a lifetime of records, held against plain loops over the same
+// file. Prints Google Benchmark's figures, then the rows of the table as tab-separated fields.
+
+#include "RunningApp.h"
+#include "editing/AddTransactionView.h"
+
+#include <QGuiApplication>
+#include <benchmark/benchmark.h>
+#include <chrono>
+#include <cstdio>
+#include <map>
+#include <string>
+
+namespace kovamo {
+namespace {
+
+constexpr double displayFrame = 1000.0 / 60;
+constexpr int lifetime = 100'000;
+constexpr int stress = 1'000'000;
+constexpr Ledger lifetimeLedger{lifetime, 8'700};
+constexpr double pointsAFrame = 400;
+
+RunningApp& running(const Ledger& ledger) {
+    // Never destroyed: the windows would outlive the toolkit.
+    static auto& apps = *new std::map<std::pair<int, int>, std::unique_ptr<RunningApp>>;
+    auto& app = apps[{ledger.stored, ledger.inFrame}];
+    if (!app)
+        app = std::make_unique<RunningApp>(ledger);
+    return *app;
+}
+
+void select(RunningApp& app, TimeFrame timeFrame) {
+    app.content().select(timeFrame);
+    app.layOut();
+}
+
+/// From the tap on the picker until everything is gathered and laid out.
+void frameChange(benchmark::State& state, Ledger ledger) {
+    RunningApp& app = running(ledger);
+    select(app, 3);
+    for (auto _ : state) {
+        state.PauseTiming();
+        select(app, 1);
+        state.ResumeTiming();
+        select(app, 3);
+    }
+}
+
+void plainLoop(benchmark::State& state) {
+    PlainLoop& plain = running(lifetimeLedger).plain();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(plain.sum());
+}
+
+/// From the press of "Save" until everything is laid out with the new record.
+void save(benchmark::State& state) {
+    RunningApp& app = running(lifetimeLedger);
+    select(app, 3);
+    for (auto _ : state) {
+        state.PauseTiming();
+        AddTransactionView form(app.context());
+        form.setEmoji(QStringLiteral("🛒"));
+        form.setTitle(QStringLiteral("Groceries"));
+        form.setAmount(QStringLiteral("42"));
+        state.ResumeTiming();
+        form.save();
+        app.layOut();
+    }
+}
+
+/// One more layout of what is shown: what a save costs beside the writing.
+void layout(benchmark::State& state) {
+    RunningApp& app = running(lifetimeLedger);
+    select(app, 3);
+    for (auto _ : state)
+        select(app, 3);
+}
+
+void plainInsert(benchmark::State& state) {
+    PlainLoop& plain = running(lifetimeLedger).plain();
+    for (auto _ : state)
+        plain.insert();
+}
+
+/// From Ctrl+L until the list stands in its sheet.
+void openList(benchmark::State& state) {
+    RunningApp& app = running({stress, 1'000});
+    for (auto _ : state) {
+        app.content().setShowTransactions(true);
+        app.layOut();
+        state.PauseTiming();
+        app.content().setShowTransactions(false);
+        app.settle();
+        state.ResumeTiming();
+    }
+}
+
+void plainSelect(benchmark::State& state) {
+    PlainLoop& plain = running({stress, 1'000}).plain();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(plain.countByAmount());
+}
+
+/// How many display frames are missed while the list in the foreground is scrolled to its end, a
+/// screen's half a frame.
+int missedFrames(RunningApp& app, int& shown) {
+    int missed = 0;
+    QQuickItem& list = app.list();
+    const double end = list.property("contentHeight").toDouble() - list.height();
+    app.showFrame();
+    for (double y = 0; y < end; y += pointsAFrame, ++shown) {
+        list.setProperty("contentY", y);
+        const auto start = std::chrono::steady_clock::now();
+        app.showFrame();
+        const std::chrono::duration<double, std::milli> time =
+            std::chrono::steady_clock::now() - start;
+        missed += time.count() > displayFrame;
+    }
+    return missed;
+}
+
+/// Keeps the median of each benchmark.
+class Medians : public benchmark::ConsoleReporter {
+  public:
+    Medians() : ConsoleReporter(OO_None) {}
+
+    void ReportRuns(const std::vector<Run>& runs) override {
+        ConsoleReporter::ReportRuns(runs);
+        for (const Run& run : runs)
+            if (run.aggregate_name == "median")
+                m_milliseconds[run.run_name.function_name] = run.GetAdjustedRealTime();
+    }
+
+    double operator[](const std::string& name) const { return m_milliseconds.at(name); }
+
+  private:
+    std::map<std::string, double> m_milliseconds;
+};
+
+/// A row of the table: what, its figure, against what, that one's figure, the goal of the ratio.
+void printRow(const char* what, double figure, const char* against, double reference, double goal) {
+    std::printf("row\t%s\t%.2f ms\t%s\t%.2f ms\t%.2f\t%.2f\n", what, figure, against, reference,
+                figure / reference, goal);
+}
+
+void printRows(const Medians& median) {
+    const double change = median["change the time frame"], plain = median["plain loop"];
+    printRow("change of time frame, 100,000 stored, 8,700 in it", change,
+             "plain SQLite loop over the same queries", plain, 1);
+    printRow("the same", change, "one display frame", displayFrame, 1);
+    const double smallest = median["frame of 1,000, 10,000 stored"];
+    for (const char* larger :
+         {"frame of 1,000, 100,000 stored", "frame of 1,000, 1,000,000 stored"})
+        printRow(larger, median[larger], "with 10,000 stored", smallest, 1.2);
+    printRow("save of a new record until laid out", median["save"],
+             "1.2 plain inserts and one layout", 1.2 * median["plain insert"] + median["layout"],
+             1);
+    printRow("opening all transactions, 1,000,000 stored", median["open the list"],
+             "plain SELECT of the row ids", median["plain select"], 1.5);
+
+    RunningApp& app = running(lifetimeLedger);
+    for (const char* list : {"the time frame's list", "all transactions"}) {
+        int shown = 0;
+        const int missed = missedFrames(app, shown);
+        std::printf("row\tscrolling %s end to end\t%d missed\tframes shown\t%d\t%.4f\t0\n", list,
+                    missed, shown, static_cast<double>(missed) / shown);
+        app.content().setShowTransactions(true);
+        app.settle();
+    }
+}
+
+} // namespace
+} // namespace kovamo
+
+int main(int argc, char** argv) {
+    using namespace kovamo;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    benchmark::Initialize(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    const auto add = [](const char* name, auto&&... work) {
+        benchmark::RegisterBenchmark(name, work...)
+            ->Unit(benchmark::kMillisecond)
+            ->MinTime(0.3)
+            ->Repetitions(7)
+            ->ReportAggregatesOnly();
+    };
+    add("change the time frame", frameChange, lifetimeLedger);
+    add("plain loop", plainLoop);
+    add("frame of 1,000, 10,000 stored", frameChange, Ledger{10'000, 1'000});
+    add("frame of 1,000, 100,000 stored", frameChange, Ledger{lifetime, 1'000});
+    add("frame of 1,000, 1,000,000 stored", frameChange, Ledger{stress, 1'000});
+    add("open the list", openList);
+    add("plain select", plainSelect);
+    add("plain insert", plainInsert);
+    add("layout", layout);
+    add("save", save);
+    Medians medians;
+    benchmark::RunSpecifiedBenchmarks(&medians);
+    printRows(medians);
+}

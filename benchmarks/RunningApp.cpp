@@ -1,0 +1,77 @@
+#include "RunningApp.h"
+
+#include "app/KovamoApp.h"
+#include "platform/foundation/UserDefaults.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+namespace kovamo {
+
+namespace {
+
+// Longer than any animation of the app.
+constexpr int restMilliseconds = 700;
+
+std::unique_ptr<PersistentContainer> loaded() {
+    auto container =
+        std::make_unique<PersistentContainer>(QStringLiteral("Kovamo"), Transaction::entity());
+    container->loadPersistentStores([](const StoreError* error) {
+        if (error)
+            unresolvedError(*error);
+    });
+    return container;
+}
+
+} // namespace
+
+RunningApp::RunningApp(const Ledger& ledger) {
+    qputenv("XDG_DATA_HOME", m_folder.path().toLocal8Bit());
+    qputenv("XDG_CONFIG_HOME", m_folder.path().toLocal8Bit());
+    UserDefaults::reopenStandard();
+    fill(loaded()->storePath(), ledger);
+    m_container = loaded();
+    m_plain = std::make_unique<PlainLoop>(m_container->storePath());
+    UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
+    m_root = std::make_unique<RootView>(m_container->viewContext());
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    m_window = &KovamoApp::showWindow(*m_engine, *m_root);
+    m_window->resize(390, 844);
+    showFrame();
+}
+
+QQuickItem& RunningApp::list() {
+    QList<QQuickItem*> items{m_window->contentItem()};
+    QQuickItem* found = nullptr;
+    while (!items.isEmpty()) {
+        QQuickItem* item = items.takeFirst();
+        if (item->isVisible() && item->inherits("QQuickListView"))
+            found = item;
+        items.append(item->childItems());
+    }
+    return *found;
+}
+
+void RunningApp::layOut() {
+    QCoreApplication::sendPostedEvents();
+    list().ensurePolished();
+}
+
+void RunningApp::showFrame() {
+    bool isShown = false;
+    const auto connection = QObject::connect(m_window, &QQuickWindow::frameSwapped, m_window,
+                                             [&isShown] { isShown = true; });
+    m_window->update();
+    while (!isShown)
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QObject::disconnect(connection);
+}
+
+void RunningApp::settle() {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < restMilliseconds)
+        showFrame();
+}
+
+} // namespace kovamo

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "Ledger.h"
+#include "app/RootView.h"
+#include "model/PersistenceController.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace kovamo {
+
+/// The app in its window, on a store of its own.
+class RunningApp {
+  public:
+    explicit RunningApp(const Ledger& ledger);
+
+    [[nodiscard]] ContentView& content() { return *m_root->content(); }
+    [[nodiscard]] ManagedObjectContext& context() { return m_container->viewContext(); }
+    [[nodiscard]] PlainLoop& plain() { return *m_plain; }
+    [[nodiscard]] QQuickWindow& window() { return *m_window; }
+
+    /// The list in the foreground: that of all transactions while its sheet is shown, else that of
+    /// the time frame.
+    [[nodiscard]] QQuickItem& list();
+
+    /// Does what the event loop's next turn does: lays the main screen out, its list included.
+    void layOut();
+
+    /// Runs the event loop until the window has shown another frame.
+    void showFrame();
+
+    /// Runs the event loop until what moves has come to rest and what has gone is gone.
+    void settle();
+
+  private:
+    QTemporaryDir m_folder;
+    std::unique_ptr<PersistentContainer> m_container;
+    std::unique_ptr<PlainLoop> m_plain;
+    std::unique_ptr<RootView> m_root;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow* m_window = nullptr;
+};
+
+} // namespace kovamo
