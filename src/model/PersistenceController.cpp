@@ -12,14 +12,14 @@ void unresolvedError(const StoreError& error) {
 
 const PersistenceController& PersistenceController::shared() {
     static const PersistenceController controller = [] {
-        const auto container =
+        const auto loaded =
             std::make_shared<PersistentContainer>(QStringLiteral("Kovamo"), Transaction::entity());
-        container->loadPersistentStores([](const StoreError* error) {
+        loaded->loadPersistentStores([](const StoreError* error) {
             if (error)
                 unresolvedError(*error);
         });
-        container->viewContext().setAutomaticallyMergesChangesFromParent(true);
-        return PersistenceController{container};
+        loaded->viewContext().setAutomaticallyMergesChangesFromParent(true);
+        return PersistenceController{loaded};
     }();
     return controller;
 }
