@@ -23,12 +23,12 @@ Calendar::Calendar() {
 
 CalendarDay Calendar::day(Instant instant) const {
     set(instant);
-    return {field(UCAL_YEAR), field(UCAL_MONTH) + 1, field(UCAL_DAY_OF_MONTH)};
+    return {field(UCAL_EXTENDED_YEAR), field(UCAL_MONTH) + 1, field(UCAL_DAY_OF_MONTH)};
 }
 
 Instant Calendar::instant(const CalendarDay& day, int hour) const {
     m_fields->clear();
-    m_fields->set(UCAL_YEAR, day.year);
+    m_fields->set(UCAL_EXTENDED_YEAR, day.year);
     m_fields->set(UCAL_MONTH, day.month - 1);
     m_fields->set(UCAL_DAY_OF_MONTH, day.day);
     m_fields->set(UCAL_HOUR_OF_DAY, hour);
@@ -39,7 +39,7 @@ Instant Calendar::moved(Instant instant, const CalendarDay& day) const {
     set(instant);
     const int timeOfDay = field(UCAL_MILLISECONDS_IN_DAY);
     m_fields->clear();
-    m_fields->set(UCAL_YEAR, day.year);
+    m_fields->set(UCAL_EXTENDED_YEAR, day.year);
     m_fields->set(UCAL_MONTH, day.month - 1);
     m_fields->set(UCAL_DAY_OF_MONTH, day.day);
     m_fields->set(UCAL_MILLISECONDS_IN_DAY, timeOfDay);

@@ -7,7 +7,8 @@
 
 namespace kovamo {
 
-/// A calendar day: the year as its calendar counts it, the month and the day from 1.
+/// A calendar day: the year counted through, without the eras or cycles that its calendar has, the
+/// month and the day from 1.
 struct CalendarDay {
     int year = 0;
     int month = 1;
