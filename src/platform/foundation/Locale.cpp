@@ -1,20 +1,47 @@
 #include "Locale.h"
 
 #include <QByteArray>
+#include <cstring>
+#include <memory>
+#include <unicode/datefmt.h>
+#include <unicode/numfmt.h>
 
 namespace kovamo {
 
 namespace {
 
+icu::Locale posixLocale() {
+    return icu::Locale::createCanonical("en_US_POSIX");
+}
+
+bool hasFormatters(const icu::Locale& locale) {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateFormat> dates(
+        icu::DateFormat::createInstanceForSkeleton("yMMMd", locale, status));
+    const std::unique_ptr<icu::NumberFormat> money(
+        icu::NumberFormat::createInstance(locale, UNUM_CURRENCY, status));
+    return U_SUCCESS(status);
+}
+
+/// The locale of a name as somebody wrote it: without its keywords ("@calendar=…") where ICU has
+/// no formatters for them.
+icu::Locale named(const char* name) {
+    const icu::Locale locale = icu::Locale::createCanonical(name);
+    if (locale.isBogus())
+        return posixLocale();
+    const bool hasKeywords = std::strchr(locale.getName(), '@') != nullptr;
+    return hasKeywords && !hasFormatters(locale) ? icu::Locale(locale.getBaseName()) : locale;
+}
+
 icu::Locale localeOf(const char* category) {
     for (const char* variable : {"LC_ALL", category, "LANG"}) {
         const QByteArray name = qgetenv(variable);
         if (!name.isEmpty() && name != "C" && !name.startsWith("C.") && name != "POSIX")
-            return icu::Locale::createCanonical(name.constData());
+            return named(name.constData());
         if (!name.isEmpty())
             break;
     }
-    return icu::Locale::createCanonical("en_US_POSIX");
+    return posixLocale();
 }
 
 } // namespace
