@@ -154,11 +154,12 @@ Store::Store(const QString& path, const EntityDescription& entity)
         refuseNewer();
         refuseDamaged();
         createSchema();
+        // Fails where the table lacks a column, and so before anything is written.
+        m_readRow.emplace(*m_database, utf8(u"SELECT " + m_columns.join(u',') + u" FROM " +
+                                            m_table + u" WHERE pk = ?"));
         m_database->exec("PRAGMA journal_mode = WAL");
         m_database->exec("PRAGMA synchronous = FULL");
         sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
-        m_readRow.emplace(*m_database, utf8(u"SELECT " + m_columns.join(u',') + u" FROM " +
-                                            m_table + u" WHERE pk = ?"));
         m_dataVersion.emplace(*m_database, "PRAGMA data_version");
         (void)changedElsewhere();
     });
