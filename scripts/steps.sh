@@ -1,4 +1,4 @@
-# The steps that ./run, ./test, scripts/lint and .ci/run share; sourced by them with bash. What
+# The steps that ./run, ./test, .ci/run and the scripts here share; sourced by them with bash. What
 # they say goes to standard error: standard output is the app's.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -31,6 +31,8 @@ build_packages=(
 test_packages=(libgtest-dev)
 
 lint_packages=(clang-format)
+
+fuzz_packages=(clang libclang-rt-14-dev llvm)
 
 say() {
     printf '%s\n' "$*" >&2
