@@ -5,6 +5,7 @@
 #include "platform/foundation/RadixSort.h"
 
 #include <QFileInfo>
+#include <QStringDecoder>
 #include <SQLiteCpp/Transaction.h>
 #include <algorithm>
 #include <cerrno>
@@ -13,6 +14,7 @@
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace kovamo {
 
@@ -79,20 +81,33 @@ void bind(SQLite::Statement& statement, int index, const Value& value) {
         value);
 }
 
-Value valueOf(const SQLite::Column& column, AttributeType type) {
+/// The text as it was written: a mark of the byte order at its start is a part of it.
+QString textOf(const SQLite::Column& column) {
+    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
+    return decoder(QByteArrayView(column.getText(), column.getBytes()));
+}
+
+/// Nothing for a value that the attribute cannot have, which a table made by others may hold.
+std::optional<Value> valueOf(const SQLite::Column& column, const AttributeDescription& attribute) {
     if (column.isNull())
-        return {};
-    switch (type) {
+        return attribute.isOptional ? std::optional<Value>(Value()) : std::nullopt;
+    const bool isText =
+        attribute.type == AttributeType::string || attribute.type == AttributeType::uuid;
+    if (isText ? !column.isText() : !column.isInteger())
+        return std::nullopt;
+    switch (attribute.type) {
     case AttributeType::integer32:
+        if (!std::in_range<std::int32_t>(column.getInt64()))
+            return std::nullopt;
         return column.getInt();
     case AttributeType::boolean:
-        return column.getInt() != 0;
+        return column.getInt64() != 0;
     case AttributeType::string:
-        return QString::fromUtf8(column.getText(), column.size());
+        return textOf(column);
     case AttributeType::date:
         return Instant(std::chrono::milliseconds(column.getInt64()));
     case AttributeType::uuid: {
-        const auto id = QUuid::fromString(QString::fromStdString(column.getString()));
+        const auto id = QUuid::fromString(textOf(column));
         return id.isNull() ? Value() : Value(id);
     }
     }
@@ -252,9 +267,13 @@ std::vector<Value> Store::read(ObjectID id) {
             values.reserve(m_entity.attributes.size());
             int index = 0;
             for (const AttributeDescription& attribute : m_entity.attributes) {
-                values.push_back(valueOf(m_readRow->getColumn(index++), attribute.type));
-                if (auto* text = std::get_if<QString>(&values.back()))
+                auto value = valueOf(m_readRow->getColumn(index++), attribute);
+                if (!value)
+                    fail(QStringLiteral("The record %1 has a wrong %2").arg(id).arg(attribute.name),
+                         SQLITE_MISMATCH, m_path);
+                if (auto* text = std::get_if<QString>(&*value))
                     *text = shared(*text);
+                values.push_back(*std::move(value));
             }
         }
         m_readRow->reset();
