@@ -28,7 +28,7 @@ build_packages=(
     qt6-declarative-dev
 )
 
-test_packages=(libgtest-dev)
+test_packages=(libgtest-dev strace tzdata)
 
 lint_packages=(clang-format)
 

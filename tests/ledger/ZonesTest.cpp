@@ -4,6 +4,7 @@
 
 #include <fstream>
 #include <gtest/gtest.h>
+#include <iostream>
 #include <sstream>
 #include <unicode/timezone.h>
 
@@ -29,7 +30,7 @@ std::vector<std::string> zones() {
 struct Counts {
     int compared = 0;
     /// The two know different rules for the zone at the time.
-    int unknown = 0;
+    int disputed = 0;
 };
 
 class Comparison {
@@ -61,15 +62,22 @@ class Comparison {
         return std::chrono::milliseconds(standard + summer) == WallClock::offset(instant);
     }
 
+    bool agreeAround(Instant instant) const {
+        for (const auto hours : {-24h, -2h, -1h, 0h, 1h, 2h, 24h})
+            if (!agree(instant + hours))
+                return false;
+        return true;
+    }
+
     void compare(Instant now, Counts& counts) {
         const auto expected = WallClock::slots(now, 3);
         const auto [year, month] = WallClock::month(now);
         const Instant start = WallClock::at({year, month}, 0);
-        bool known = agree(now) && agree(start - 24h) && agree(start) && agree(start + 24h);
+        bool known = agree(now) && agreeAround(start);
         for (const auto& slot : expected)
-            known = known && agree(slot.end - 24h) && agree(slot.end) && agree(slot.end + 24h);
+            known = known && agreeAround(slot.end);
         if (!known) {
-            ++counts.unknown;
+            ++counts.disputed;
             return;
         }
         ++counts.compared;
@@ -98,12 +106,18 @@ TEST(TimeFrame, HasTheMonthsThatTheCLibraryCountsInEveryZone) {
     const std::vector<std::string> names = zones();
     ASSERT_GT(names.size(), 400U);
     const std::size_t step = qEnvironmentVariableIsSet("KOVAMO_ALL_ZONES") ? 1 : 199;
-    Counts counts;
-    for (std::size_t i = step / 2; i < names.size(); i += step)
-        Comparison(names[i]).compareAll(counts);
-    RecordProperty("compared", counts.compared);
-    RecordProperty("unknown", counts.unknown);
-    EXPECT_LT(counts.unknown, counts.compared / 20) << "the two know different rules";
+    Counts all;
+    std::string disputed;
+    for (std::size_t i = 41 % step; i < names.size(); i += step) {
+        Counts zone;
+        Comparison(names[i]).compareAll(zone);
+        all.compared += zone.compared;
+        all.disputed += zone.disputed;
+        if (zone.disputed > 0)
+            disputed += names[i] + ' ' + std::to_string(zone.disputed) + "; ";
+    }
+    std::cout << all.compared << " moments compared, with other rules " << disputed << '\n';
+    EXPECT_LT(all.disputed, all.compared / 20);
 }
 
 } // namespace
