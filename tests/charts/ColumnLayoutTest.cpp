@@ -104,16 +104,6 @@ TEST(VisibleFrames, OfACrowdKeepEveryPeakAtABoundedCost) {
     }
 }
 
-TEST(Columns, StayVisibleHoweverManyShareTheWidth) {
-    for (const std::size_t count : {1U, 15U, 150U, 175U, 176U, 400U}) {
-        const auto visible = visibleColumnFrames(columns(std::vector<double>(count, 1)), 2,
-                                                 QRectF(20, 20, 350, 200), 1);
-        EXPECT_EQ(visible.size(), count);
-        for (const QRectF& frame : visible)
-            EXPECT_GE(frame.width(), 0.5 - 1e-9) << count;
-    }
-}
-
 TEST(Bars, AreColumnsLaidOnTheirSide) {
     const auto frames = [](const std::vector<double>& values) {
         const Witness witness;

@@ -6,61 +6,6 @@
 namespace kovamo {
 namespace {
 
-TEST(Banner, JudgesTheBalanceOfTheFrame) {
-    const World world("2024-05-15 10:00");
-    const struct {
-        std::initializer_list<Line> lines;
-        TimeFrame timeFrame;
-        std::int64_t kovamo;
-        const char* infoText;
-        const char* kovamoText;
-        LinearGradient Banner::*gradient;
-    } cases[] = {
-        {{}, 1, 0, "Your Kovamo is neutral 🧿", "   0", &Banner::blueGradient},
-        {{{100}, {100, "2024-05-02", nullptr, "2024-05-02", false}},
-         1,
-         0,
-         "Your Kovamo is neutral 🧿",
-         "   0",
-         &Banner::blueGradient},
-        {{{10}, {25, "2024-05-02", nullptr, "2024-05-02", false}},
-         1,
-         15,
-         "Your Kovamo is negative 💔",
-         "- ",
-         &Banner::redGradient},
-        {{{10}, {25, "2024-06-02"}},
-         1,
-         10,
-         "Your Kovamo is positive 👍",
-         "+ ",
-         &Banner::greenGardient},
-        {{{10}, {5, "2020-01-01", "monthly"}},
-         2,
-         25,
-         "Your Kovamo is positive 👍",
-         "+ ",
-         &Banner::greenGardient},
-        {{{2147483647}, {2147483647}, {2147483647}},
-         1,
-         6442450941,
-         "Your Kovamo is positive 👍",
-         "+ ",
-         &Banner::greenGardient},
-    };
-    for (const auto& [lines, timeFrame, kovamo, infoText, kovamoText, gradient] : cases) {
-        const World scratch("2024-05-15 10:00");
-        Book book(lines);
-        const Banner banner(book.context, timeFrame);
-        EXPECT_EQ(banner.isShown(), lines.size() > 0);
-        EXPECT_EQ(banner.kovamo, kovamo);
-        EXPECT_EQ(banner.infoText.toStdString(), infoText);
-        EXPECT_EQ(banner.kovamoText.toStdString(), kovamoText);
-        EXPECT_EQ(banner.currentGradient, banner.*gradient);
-    }
-    EXPECT_EQ(Banner().currentGradient, Banner().greenGardient);
-}
-
 TEST(Banner, PutsTheCurrencyWhereTheLocaleDoes) {
     const World world("2024-05-15 10:00");
     const struct {

@@ -3,7 +3,6 @@
 
 #include <QImage>
 #include <QPainter>
-#include <cmath>
 #include <gtest/gtest.h>
 
 namespace kovamo {
@@ -11,39 +10,6 @@ namespace {
 
 Line spending(std::int32_t amount, const char* day) {
     return {amount, day, nullptr, day, false};
-}
-
-QList<double> padded(QList<double> values) {
-    values.resize(15);
-    return values;
-}
-
-TEST(TransactionChart, ScalesTheAmountsInTheOrderOfTheirDates) {
-    const World world("2024-05-15 10:00");
-    const struct {
-        std::initializer_list<Line> lines;
-        QList<double> positive;
-        QList<double> negative;
-    } cases[] = {
-        {{}, {}, {}},
-        {{{50, "2024-05-01"}}, {1}, {0}},
-        {{spending(200, "2024-05-03"), {100, "2024-05-01"}, {50, "2024-05-02"}},
-         {0.5, 0.25, 0},
-         {0, 0, 1}},
-        // Equal dates keep the order in which they were gathered: one-offs, then recurring ones.
-        {{{10, "2024-05-02", "monthly"}, {20, "2024-05-02"}, spending(40, "2024-05-02")},
-         {0.5, 0, 0.25},
-         {0, 1, 0}},
-        {{{2147483647, "2024-05-01"}, spending(1, "2024-05-02")}, {1, 0}, {0, 1 / 2147483647.0}},
-    };
-    for (const auto& [lines, positive, negative] : cases) {
-        const World scratch("2024-05-15 10:00");
-        Book book(lines);
-        const TransactionChart chart(book.context, 1);
-        EXPECT_EQ(chart.isShown(), lines.size() > 0);
-        EXPECT_EQ(chart.positiveChartData, padded(positive));
-        EXPECT_EQ(chart.negativeChartData, padded(negative));
-    }
 }
 
 TEST(TransactionChart, SaysItsFrameAndRange) {
@@ -84,20 +50,6 @@ TEST(TransactionChart, PaintsAColumnWhereItFindsOne) {
     EXPECT_GT(red.red(), red.green() + 50);
     EXPECT_EQ(image.pixelColor(second, 110), QColor(Qt::white)) << "it is half as high";
     EXPECT_GT(image.pixelColor(first, 210).red(), 200) << "it ends in yellow";
-}
-
-TEST(TransactionChart, DrawsNothingForAmountsOfZero) {
-    const World world("2024-05-15 10:00");
-    Book book({{0, "2024-05-01"}});
-    const TransactionChart chart(book.context, 1);
-    EXPECT_TRUE(std::isnan(chart.positiveChartData[0]));
-    QImage image(390, 240, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    const QImage blank = image.copy();
-    QPainter painter(&image);
-    chart.view().paint(painter, image.rect(), EnvironmentValues());
-    painter.end();
-    EXPECT_EQ(image, blank);
 }
 
 } // namespace

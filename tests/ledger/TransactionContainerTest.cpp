@@ -21,33 +21,6 @@ Amounts fetched(TimeFrame timeFrame, ManagedObjectContext& context) {
     return amounts(container);
 }
 
-TEST(TransactionContainer, ListsThePeriodLargestFirst) {
-    const World world("2024-05-15 10:00");
-    Book book({{30, "2024-05-20"},
-               {500, "2024-06-20"},
-               {100, "2020-01-01", "monthly"},
-               {1, "2024-05-01"},
-               {2, "2024-05-31 22:59:59.999"},
-               {3, "2024-05-31 23:00"},
-               {4, "2024-04-30 23:59:59.999"},
-               {5, "2024-05-15 09:59"},
-               {6, "2024-05-15 10:00"}});
-    EXPECT_EQ(fetched(1, book.context), (Amounts{100, 30, 6, 5, 2, 1}));
-    EXPECT_EQ(fetched(2, book.context), (Amounts{500, 300, 30, 6, 5, 3, 2, 1}));
-    EXPECT_EQ(fetched(0, book.context), (Amounts{100, 5, 1}));
-}
-
-TEST(TransactionContainer, KeepsTheGatheringOrderOfEqualAmounts) {
-    const World world("2024-05-15 10:00");
-    Book book({{7, "2020-01-01", "monthly"}, {7, "2024-05-20"}, {7, "2024-05-02"}});
-    TransactionContainer container;
-    container.fetchTransactions(1, book.context);
-    ASSERT_EQ(container.transactions().size(), 3U);
-    EXPECT_EQ(container.transactions()[0].startDate, at("2024-05-20"));
-    EXPECT_EQ(container.transactions()[1].startDate, at("2024-05-02"));
-    EXPECT_TRUE(*container.transactions()[2].isRecurring);
-}
-
 TEST(TransactionContainer, TellsItsObserversBeforeEachChange) {
     const World world("2024-05-15 10:00");
     Book book({{30, "2024-05-20"}, {50, "2024-05-21"}});
