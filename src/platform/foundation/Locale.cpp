@@ -23,14 +23,17 @@ bool hasFormatters(const icu::Locale& locale) {
     return U_SUCCESS(status);
 }
 
-/// The locale of a name as somebody wrote it: without its keywords ("@calendar=…") where ICU has
-/// no formatters for them.
+/// The locale of a name as somebody wrote it: of its language and country alone where ICU has no
+/// formatters for what follows them ("@calendar=…").
 icu::Locale named(const char* name) {
     const icu::Locale locale = icu::Locale::createCanonical(name);
     if (locale.isBogus())
         return posixLocale();
-    const bool hasKeywords = std::strchr(locale.getName(), '@') != nullptr;
-    return hasKeywords && !hasFormatters(locale) ? icu::Locale(locale.getBaseName()) : locale;
+    const bool isPlain =
+        std::strlen(locale.getVariant()) == 0 && std::strchr(locale.getName(), '@') == nullptr;
+    return isPlain || hasFormatters(locale)
+               ? locale
+               : icu::Locale(locale.getLanguage(), locale.getCountry());
 }
 
 icu::Locale localeOf(const char* category) {
