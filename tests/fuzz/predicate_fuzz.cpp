@@ -33,16 +33,14 @@ struct Records {
     ManagedObjectContext context{store, Transaction::entity()};
 
     Records() {
-        std::vector<std::uint8_t> bytes(2000);
-        for (std::size_t i = 0; i < bytes.size(); ++i)
-            bytes[i] = static_cast<std::uint8_t>(i % 7 < 4 ? 0 : i * 37 % 251);
-        FuzzedDataProvider numbers(bytes.data(), bytes.size());
-        for (int i = 0; i < 12; ++i) {
+        for (std::uint8_t i = 0; i < 12; ++i) {
+            std::vector<std::uint8_t> bytes(64, i < 6 ? 0 : std::uint8_t(i * 37));
+            FuzzedDataProvider input(bytes.data(), bytes.size());
             auto& record = context.insert<Transaction>();
             const auto& attributes = Transaction::entity().attributes;
-            for (std::size_t index = 0; index < attributes.size(); ++index)
-                if (!attributes[index].isOptional || numbers.ConsumeIntegral<std::uint8_t>() > 40)
-                    record.setValue(index, value(numbers, attributes[index].type));
+            for (std::size_t at = 0; at < attributes.size(); ++at)
+                if (!attributes[at].isOptional || (at + i) % 5 != 0)
+                    record.setValue(at, value(input, attributes[at].type));
         }
         context.save();
     }
