@@ -1,10 +1,7 @@
 #include "charts/display/BarChartView.h"
 #include "charts/display/LineChartViews.h"
-#include "charts/display/Magnifier.h"
 #include "charts/display/PieChartView.h"
 #include "platform/views/Raster.h"
-#include "platform/views/ShapeViews.h"
-#include "platform/views/ViewModifiers.h"
 
 #include <QLocale>
 #include <limits>
@@ -98,15 +95,6 @@ TEST(PieCharts, GiveEachSliceItsShareFromTheTopClockwise) {
     expectReading(chart, {150, 60}, "Half, 50", SystemColor::red);
     expectReading(chart, {95, 110}, "Quarter, 25", SystemColor::green);
     expectReading(chart, {60, 20}, "Rest, 25", SystemColor::blue);
-}
-
-TEST(Magnifiers, EnlargeThePlotAroundTheirFocus) {
-    // A plot of two halves, the border at x = 100.
-    const AnyView plot = ZStack{{FilledShape{Rectangle{}, red},
-                                 PaddedView{FilledShape{Rectangle{}, green}, {100, 0, 0, 0}}}};
-    const QImage lens = raster(Magnifier{plot, size, {90, 60}, blue}, {80, 80});
-    expectColor(lens.pixelColor(40, 40), light(SystemColor::blue), "the focus");
-    expectColor(lens.pixelColor(63, 40), light(SystemColor::green), "past the border");
 }
 
 } // namespace

@@ -64,17 +64,5 @@ TEST(UserDefaults, KeepsEveryKindForTheNextStartInAFolderOfItsOwner) {
     EXPECT_EQ(folder.permissions() & 0x0077, 0);
 }
 
-TEST(UserDefaults, SaysOnceThatTheyCannotBeUsed) {
-    const World world("2024-05-15 10:00");
-    const QString path = preferences(world);
-    ASSERT_TRUE(QDir().mkpath(path)); // a folder where the file should be
-    testing::internal::CaptureStderr();
-    UserDefaults defaults;
-    defaults.set(key, std::int64_t{1});
-    defaults.set(key, std::int64_t{2});
-    EXPECT_EQ(testing::internal::GetCapturedStderr(),
-              "The preferences in " + path.toStdString() + " cannot be read.\n");
-}
-
 } // namespace
 } // namespace kovamo
