@@ -5,18 +5,21 @@
 
 namespace kovamo {
 
-void unresolvedError(const StoreError& error) {
-    fatalError(QStringLiteral("Unresolved error %1, %2")
-                   .arg(error.description(), error.userInfoDescription()));
+void unresolvedError(const StoreError& error, const QString& advice) {
+    fatalError(QStringLiteral("Unresolved error %1, %2%3")
+                   .arg(error.description(), error.userInfoDescription(),
+                        advice.isEmpty() ? QString() : u'\n' + advice));
 }
 
 const PersistenceController& PersistenceController::shared() {
     static const PersistenceController controller = [] {
         const auto loaded =
             std::make_shared<PersistentContainer>(QStringLiteral("Kovamo"), Transaction::entity());
-        loaded->loadPersistentStores([](const StoreError* error) {
-            if (error)
-                unresolvedError(*error);
+        loaded->loadPersistentStores([&](const StoreError* error) {
+            if (!error)
+                return;
+            const auto copy = loaded->newestCopy();
+            unresolvedError(*error, copy ? u"The newest copy of the store is " + *copy : QString());
         });
         loaded->viewContext().setAutomaticallyMergesChangesFromParent(true);
         return PersistenceController{loaded};

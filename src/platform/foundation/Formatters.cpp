@@ -47,6 +47,13 @@ QString formatted(const icu::DateFormat& format, Instant instant) {
     return toQt(text);
 }
 
+QString patternText(Instant instant, const QString& pattern, const icu::Locale& locale) {
+    UErrorCode status = U_ZERO_ERROR;
+    const icu::SimpleDateFormat format(toIcu(pattern), locale, status);
+    require(status, "dates");
+    return formatted(format, instant);
+}
+
 } // namespace
 
 QString currencyText(std::int64_t amount) {
@@ -62,10 +69,7 @@ QString digitText(int digit) {
 }
 
 QString dateText(Instant instant, const QString& pattern) {
-    UErrorCode status = U_ZERO_ERROR;
-    const icu::SimpleDateFormat format(toIcu(pattern), dateLocale(), status);
-    require(status, "dates");
-    return formatted(format, instant);
+    return patternText(instant, pattern, dateLocale());
 }
 
 QString localizedDateText(Instant instant, const QString& skeleton) {
@@ -74,6 +78,10 @@ QString localizedDateText(Instant instant, const QString& skeleton) {
         icu::DateFormat::createInstanceForSkeleton(toIcu(skeleton), dateLocale(), status));
     require(status, "dates");
     return formatted(*format, instant);
+}
+
+QString dayText(Instant instant) {
+    return patternText(instant, QStringLiteral("yyyy-MM-dd"), icu::Locale::getRoot());
 }
 
 } // namespace kovamo

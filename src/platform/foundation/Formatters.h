@@ -25,4 +25,7 @@ namespace kovamo {
 /// the user's locale prefers.
 [[nodiscard]] QString localizedDateText(Instant instant, const QString& skeleton);
 
+/// The day of `instant` in the user's zone, for names of files: "2026-11-23" in every locale.
+[[nodiscard]] QString dayText(Instant instant);
+
 } // namespace kovamo

@@ -17,6 +17,10 @@ QString PersistentContainer::storePath() const {
            u'/' + m_name + u".sqlite";
 }
 
+std::optional<QString> PersistentContainer::newestCopy() const {
+    return StoreCopy::newest(storePath());
+}
+
 void PersistentContainer::loadPersistentStores(
     const std::function<void(const StoreError*)>& completion) {
     try {

@@ -21,6 +21,9 @@ class PersistentContainer {
     /// Where the store lies.
     [[nodiscard]] QString storePath() const;
 
+    /// The newest copy that was kept of the store, if there is one.
+    [[nodiscard]] std::optional<QString> newestCopy() const;
+
     /// Opens the store, making it where there is none, and calls `completion` with nothing, or
     /// with the error.
     void loadPersistentStores(const std::function<void(const StoreError*)>& completion);

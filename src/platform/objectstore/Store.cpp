@@ -1,7 +1,9 @@
 #include "Store.h"
 
 #include "ManagedObjectContext.h"
+#include "Soundness.h"
 #include "StoreError.h"
+#include "platform/foundation/Formatters.h"
 #include "platform/foundation/RadixSort.h"
 
 #include <QFileInfo>
@@ -172,12 +174,25 @@ Store::Store(const QString& path, const EntityDescription& entity)
         // Fails where the table lacks a column, and so before anything is written.
         m_readRow.emplace(*m_database, utf8(u"SELECT " + m_columns.join(u',') + u" FROM " +
                                             m_table + u" WHERE pk = ?"));
-        m_database->exec("PRAGMA journal_mode = WAL");
         m_database->exec("PRAGMA synchronous = FULL");
         sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
         m_dataVersion.emplace(*m_database, "PRAGMA data_version");
         (void)changedElsewhere();
     });
+}
+
+Store::~Store() {
+    try {
+        const bool isSound = m_wasWritten && faultOf(*m_database) == "ok";
+        m_copy.reset();
+        m_readRow.reset();
+        m_dataVersion.reset();
+        m_database.reset();
+        if (isSound)
+            seal(m_path);
+    } catch (const SQLite::Exception&) {
+        // Without a seal, the next opening looks for itself.
+    }
 }
 
 void Store::refuseNewer() const {
@@ -188,32 +203,36 @@ void Store::refuseNewer() const {
 }
 
 void Store::refuseDamaged() const {
-    const std::string verdict = m_database->execAndGet("PRAGMA quick_check(1)").getString();
-    if (verdict != "ok")
-        fail(QString::fromStdString(verdict), SQLITE_CORRUPT, m_path);
+    if (isSealed(m_path))
+        return;
+    if (const std::string fault = faultOf(*m_database); fault != "ok")
+        fail(QString::fromStdString(fault), SQLITE_CORRUPT, m_path);
+    seal(m_path);
 }
 
 void Store::createSchema() {
-    if (m_database->execAndGet("PRAGMA user_version").getInt() == schemaVersion)
+    const auto isMade = [&] {
+        return m_database->execAndGet("PRAGMA user_version").getInt() == schemaVersion;
+    };
+    if (isMade())
         return;
     SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
-    if (m_database->execAndGet("SELECT count(*) FROM sqlite_schema").getInt() == 0) {
-        QStringList definitions{QStringLiteral("pk INTEGER PRIMARY KEY")};
-        for (const AttributeDescription& attribute : m_entity.attributes)
-            definitions.append(columnDefinition(attribute));
-        m_database->exec(
-            utf8(u"CREATE TABLE " + m_table + u" (" + definitions.join(u',') + u") STRICT"));
-    }
+    if (isMade()) // by another process, in this moment
+        return;
+    if (m_database->execAndGet("SELECT count(*) FROM sqlite_schema").getInt() != 0)
+        fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, m_path);
+    QStringList definitions{QStringLiteral("pk INTEGER PRIMARY KEY")};
+    for (const AttributeDescription& attribute : m_entity.attributes)
+        definitions.append(columnDefinition(attribute));
+    m_database->exec(
+        utf8(u"CREATE TABLE " + m_table + u" (" + definitions.join(u',') + u") STRICT"));
     for (const std::vector<SortDescriptor>& index : m_entity.indexes) {
         QString name = m_entity.name;
         for (const SortDescriptor& descriptor : index)
             name += u'_' + descriptor.key;
-        m_database->exec(utf8(u"CREATE INDEX IF NOT EXISTS " + quoted(name) + u" ON " + m_table +
-                              u" (" + sortKeys(index) + u')'));
+        m_database->exec(utf8(u"CREATE INDEX " + quoted(name) + u" ON " + m_table + u" (" +
+                              sortKeys(index) + u')'));
     }
-    // Fails, and with it the opening, where another program's table lacks a column.
-    const SQLite::Statement probe(*m_database,
-                                  utf8(u"SELECT pk," + m_columns.join(u',') + u" FROM " + m_table));
     m_database->exec("PRAGMA user_version = " + std::to_string(schemaVersion));
     transaction.commit();
 }
@@ -296,12 +315,39 @@ ObjectID Store::unusedID() const {
     });
 }
 
+bool Store::keepCopy(int pages) {
+    const QString today = dayText(Clock::now());
+    if (m_dayOfCopy == today)
+        return true;
+    try {
+        const auto isEmpty = [&] {
+            return m_database->execAndGet(utf8(u"SELECT count(*) = 0 FROM " + m_table)).getInt();
+        };
+        if (!m_copy && !isEmpty())
+            m_copy.emplace(*m_database, m_path);
+        if (m_copy && !m_copy->step(pages))
+            return false;
+    } catch (const SQLite::Exception&) {
+        // No room for a copy is no reason not to save.
+    }
+    m_copy.reset();
+    m_dayOfCopy = today;
+    return true;
+}
+
+void Store::prepareToWrite() {
+    keepCopy(-1);
+    if (!std::exchange(m_wasWritten, true))
+        guarded(m_path, [&] { m_database->exec("PRAGMA journal_mode = WAL"); });
+}
+
 void Store::write(const ObjectChanges& changes) {
     const QString insertion = u"INSERT INTO " + m_table + u" (" + m_columns.join(u',') +
                               u",pk) VALUES (" + QStringLiteral("?,").repeated(m_columns.size()) +
                               u"?)";
     const QString update =
         u"UPDATE " + m_table + u" SET " + m_columns.join(QStringLiteral("=?,")) + u"=? WHERE pk=?";
+    prepareToWrite();
     guarded(m_path, [&] {
         SQLite::Statement inserting(*m_database, utf8(insertion));
         SQLite::Statement updating(*m_database, utf8(update));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FetchRequest.h"
+#include "StoreCopy.h"
 
 #include <QSet>
 #include <QStringList>
@@ -17,8 +18,11 @@ struct ObjectChanges;
 class Store {
   public:
     /// Opens the store at `path`, or makes it, readable and writable by its owner only. A file
-    /// that is no store, is damaged or comes from a newer version is left byte for byte as it is.
+    /// that is no store, is damaged or comes from a newer version is refused. Until the first
+    /// write, any file is left byte for byte as it is.
     Store(const QString& path, const EntityDescription& entity);
+    ~Store();
+    Q_DISABLE_COPY_MOVE(Store)
 
     [[nodiscard]] const QString& path() const { return m_path; }
 
@@ -34,7 +38,12 @@ class Store {
     /// An identity that no stored record has: one above the largest.
     [[nodiscard]] ObjectID unusedID() const;
 
-    /// Writes all of `changes`, durably when it returns, or none.
+    /// Goes on with the copy that is kept of what is stored before the first write of a run, and
+    /// of each day that the run lasts, by that many pages, or by all if `pages` is negative.
+    /// Returns whether there is nothing left to do; a copy that fails is given up for the day.
+    bool keepCopy(int pages);
+
+    /// Writes all of `changes`, durably when it returns, or none. Keeps the copy first.
     void write(const ObjectChanges& changes);
 
     /// Whether another writer has saved since this was last asked.
@@ -44,6 +53,7 @@ class Store {
     void refuseNewer() const;
     void refuseDamaged() const;
     void createSchema();
+    void prepareToWrite();
     [[nodiscard]] SQLite::Statement prepared(const QString& selection,
                                              const FetchRequest& request) const;
 
@@ -56,6 +66,9 @@ class Store {
     mutable std::optional<SQLite::Database> m_database;
     std::optional<SQLite::Statement> m_readRow;
     std::optional<SQLite::Statement> m_dataVersion;
+    std::optional<StoreCopy> m_copy;
+    QString m_dayOfCopy;
+    bool m_wasWritten = false;
     int m_lastDataVersion = 0;
     // Texts that many records have in common are held once.
     QSet<QString> m_texts;

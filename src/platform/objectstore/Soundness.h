@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <SQLiteCpp/Database.h>
+#include <string>
+
+namespace kovamo {
+
+/// What is wrong with a database, every index compared with its table: "ok", or the first fault.
+/// Reads all of it.
+[[nodiscard]] std::string faultOf(SQLite::Database& database);
+
+/// Whether the file at `path` has, byte for byte, the content that was last sealed. A fraction of
+/// the cost of faultOf(), and it sees what that cannot: a changed digit in an amount.
+[[nodiscard]] bool isSealed(const QString& path);
+
+/// Remembers the content of the file at `path` as sound, in a file beside it, unless a part of the
+/// database still lies in its log. Requires that faultOf() found nothing. A seal that cannot be
+/// written is passed over: the next check takes longer.
+void seal(const QString& path);
+
+} // namespace kovamo

@@ -1,0 +1,106 @@
+#include "StoreCopy.h"
+
+#include "platform/foundation/Formatters.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <cstdio>
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+namespace kovamo {
+
+namespace {
+
+constexpr int keptCopies = 3;
+
+QDir folderOf(const QString& storePath) {
+    return QFileInfo(storePath).dir();
+}
+
+/// The names of the copies, newest first.
+QStringList copies(const QString& storePath) {
+    const QFileInfo store(storePath);
+    const QString pattern = store.completeBaseName() + u"-*-*-*." + store.suffix();
+    return folderOf(storePath).entryList({pattern}, QDir::Files, QDir::Name | QDir::Reversed);
+}
+
+QString copyOfDay(const QString& storePath, Instant now) {
+    const QFileInfo store(storePath);
+    return folderOf(storePath).filePath(store.completeBaseName() + u'-' + dayText(now) + u'.' +
+                                        store.suffix());
+}
+
+[[noreturn]] void fail(const char* what) {
+    throw SQLite::Exception(what, SQLITE_IOERR);
+}
+
+/// Makes what was done to the names in a folder last.
+void syncFolder(const QString& folder) {
+    const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
+    ::fsync(file);
+    ::close(file);
+}
+
+} // namespace
+
+StoreCopy::StoreCopy(SQLite::Database& source, const QString& storePath)
+    : m_storePath(storePath), m_unfinished(storePath + u"-copy-" +
+                                           QString::number(QCoreApplication::applicationPid())) {
+    // What a killed process left. Should another one be at it right now, its copy fails to get its
+    // name, and this one is as good.
+    QDir folder = folderOf(storePath);
+    for (const QString& left : folder.entryList({QFileInfo(storePath).fileName() + u"-copy-*"}))
+        folder.remove(left);
+    const int file = ::open(QFile::encodeName(m_unfinished).constData(),
+                            O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    if (file < 0)
+        fail("The copy cannot be made");
+    ::close(file);
+    m_target.emplace(m_unfinished.toStdString(), SQLite::OPEN_READWRITE);
+    // Nobody opens the copy before it is whole.
+    m_target->exec("PRAGMA journal_mode = OFF");
+    m_target->exec("PRAGMA synchronous = FULL");
+    m_backup.emplace(*m_target, source);
+}
+
+StoreCopy::~StoreCopy() {
+    m_backup.reset();
+    m_target.reset();
+    QFile::remove(m_unfinished);
+}
+
+bool StoreCopy::step(int pages) {
+    const int code = m_backup->executeStep(pages);
+    if (code == SQLITE_DONE) {
+        publish();
+        return true;
+    }
+    if (pages < 0)
+        fail("The store is busy");
+    return false;
+}
+
+void StoreCopy::publish() {
+    m_backup.reset();
+    m_target.reset();
+    const QString path = copyOfDay(m_storePath, Clock::now());
+    if (std::rename(QFile::encodeName(m_unfinished).constData(),
+                    QFile::encodeName(path).constData()) != 0)
+        fail("The copy cannot be given its name");
+    QDir folder = folderOf(m_storePath);
+    for (const QString& old : copies(m_storePath).mid(keptCopies))
+        if (folder.filePath(old) != path)
+            folder.remove(old);
+    syncFolder(folder.path());
+}
+
+std::optional<QString> StoreCopy::newest(const QString& storePath) {
+    const QStringList names = copies(storePath);
+    return names.isEmpty() ? std::nullopt
+                           : std::optional(folderOf(storePath).filePath(names.front()));
+}
+
+} // namespace kovamo

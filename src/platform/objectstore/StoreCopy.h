@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QString>
+#include <SQLiteCpp/Backup.h>
+#include <SQLiteCpp/Database.h>
+#include <optional>
+
+namespace kovamo {
+
+/// A copy of a store in the making: a complete store beside it that bears the day, readable and
+/// writable by its owner only ("Kovamo-2026-11-23.sqlite" beside "Kovamo.sqlite"). It takes the
+/// place of an earlier one of that day, so that the newest three are of three days, however often
+/// a day is copied. All failures are thrown as SQLite::Exception and leave no file behind.
+class StoreCopy {
+  public:
+    /// Begins the copy of the store at `storePath`, which `source` has open. Requires: `source`
+    /// outlives the copy.
+    StoreCopy(SQLite::Database& source, const QString& storePath);
+    ~StoreCopy();
+    Q_DISABLE_COPY_MOVE(StoreCopy)
+
+    /// Copies `pages` more, or all that are left if that is negative. After the last one the copy
+    /// is on the disk under its name and copies beyond the newest three are gone; returns whether
+    /// that is so.
+    bool step(int pages);
+
+    /// The newest copy of the store at `storePath`, if there is one.
+    [[nodiscard]] static std::optional<QString> newest(const QString& storePath);
+
+  private:
+    void publish();
+
+    QString m_storePath;
+    QString m_unfinished;
+    std::optional<SQLite::Database> m_target;
+    std::optional<SQLite::Backup> m_backup;
+};
+
+} // namespace kovamo
