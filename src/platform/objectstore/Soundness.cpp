@@ -1,7 +1,6 @@
 #include "Soundness.h"
 
 #include <QFileInfo>
-#include <QSaveFile>
 #include <array>
 #include <bit>
 #include <cstdint>
@@ -58,12 +57,11 @@ bool isSealed(const QString& path) {
 }
 
 void seal(const QString& path) {
-    QSaveFile file(sealPath(path));
+    QFile file(sealPath(path));
     if (QFileInfo(path + u"-wal").size() > 0 || !file.open(QIODevice::WriteOnly))
         return;
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     file.write(digest(path));
-    file.commit();
 }
 
 } // namespace kovamo

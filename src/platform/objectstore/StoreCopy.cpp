@@ -47,29 +47,27 @@ void syncFolder(const QString& folder) {
 } // namespace
 
 StoreCopy::StoreCopy(SQLite::Database& source, const QString& storePath)
-    : m_storePath(storePath), m_unfinished(storePath + u"-copy-" +
-                                           QString::number(QCoreApplication::applicationPid())) {
+    : m_storePath(storePath),
+      m_unfinished{storePath + u"-copy-" + QString::number(QCoreApplication::applicationPid())} {
     // What a killed process left. Should another one be at it right now, its copy fails to get its
     // name, and this one is as good.
     QDir folder = folderOf(storePath);
     for (const QString& left : folder.entryList({QFileInfo(storePath).fileName() + u"-copy-*"}))
         folder.remove(left);
-    const int file = ::open(QFile::encodeName(m_unfinished).constData(),
+    const int file = ::open(QFile::encodeName(m_unfinished.path).constData(),
                             O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     if (file < 0)
         fail("The copy cannot be made");
     ::close(file);
-    m_target.emplace(m_unfinished.toStdString(), SQLite::OPEN_READWRITE);
+    m_target.emplace(m_unfinished.path.toStdString(), SQLite::OPEN_READWRITE);
     // Nobody opens the copy before it is whole.
     m_target->exec("PRAGMA journal_mode = OFF");
     m_target->exec("PRAGMA synchronous = FULL");
     m_backup.emplace(*m_target, source);
 }
 
-StoreCopy::~StoreCopy() {
-    m_backup.reset();
-    m_target.reset();
-    QFile::remove(m_unfinished);
+StoreCopy::Unfinished::~Unfinished() {
+    QFile::remove(path);
 }
 
 bool StoreCopy::step(int pages) {
@@ -87,7 +85,7 @@ void StoreCopy::publish() {
     m_backup.reset();
     m_target.reset();
     const QString path = copyOfDay(m_storePath, Clock::now());
-    if (std::rename(QFile::encodeName(m_unfinished).constData(),
+    if (std::rename(QFile::encodeName(m_unfinished.path).constData(),
                     QFile::encodeName(path).constData()) != 0)
         fail("The copy cannot be given its name");
     QDir folder = folderOf(m_storePath);

@@ -16,7 +16,6 @@ class StoreCopy {
     /// Begins the copy of the store at `storePath`, which `source` has open. Requires: `source`
     /// outlives the copy.
     StoreCopy(SQLite::Database& source, const QString& storePath);
-    ~StoreCopy();
     Q_DISABLE_COPY_MOVE(StoreCopy)
 
     /// Copies `pages` more, or all that are left if that is negative. After the last one the copy
@@ -30,8 +29,14 @@ class StoreCopy {
   private:
     void publish();
 
+    /// A file that goes with the value, unless it has got another name by then.
+    struct Unfinished {
+        QString path;
+        ~Unfinished();
+    };
+
     QString m_storePath;
-    QString m_unfinished;
+    Unfinished m_unfinished;
     std::optional<SQLite::Database> m_target;
     std::optional<SQLite::Backup> m_backup;
 };
