@@ -75,9 +75,9 @@ int open(sqlite3_vfs* disk, const char* name, sqlite3_file* file, int flags, int
     return opened;
 }
 
-int remove(sqlite3_vfs* disk, const char* name, int syncs) {
+int remove(sqlite3_vfs* disk, const char* name, int) {
     const int code = due(SQLITE_IOERR_DELETE);
-    return code == SQLITE_OK ? realDisk->xDelete(disk, name, syncs) : failed(code);
+    return code == SQLITE_OK ? realDisk->xDelete(disk, name, 0) : failed(code);
 }
 
 } // namespace
@@ -110,7 +110,7 @@ Ended runForked(const std::function<void()>& work) {
     if (child == 0) {
         ::dup2(pipe[1], STDERR_FILENO);
         ::alarm(60);
-        work();
+        [&]() noexcept { work(); }();
         ::_exit(0);
     }
     ::close(pipe[1]);

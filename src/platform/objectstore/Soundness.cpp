@@ -56,6 +56,13 @@ bool isSealed(const QString& path) {
     return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.readAll() == digest(path);
 }
 
+bool isEmptied(const QString& path) {
+    const QFileInfo file(path);
+    if (!file.exists())
+        QFile::remove(sealPath(path));
+    return file.isFile() && file.size() == 0 && QFile::exists(sealPath(path));
+}
+
 void seal(const QString& path) {
     QFile file(sealPath(path));
     if (QFileInfo(path + u"-wal").size() > 0 || !file.open(QIODevice::WriteOnly))

@@ -159,6 +159,8 @@ Store::Store(const QString& path, const EntityDescription& entity)
     : m_path(path), m_entity(entity), m_table(quoted(entity.name)) {
     for (const AttributeDescription& attribute : entity.attributes)
         m_columns.append(quoted(attribute.name));
+    if (isEmptied(path))
+        fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path);
     makeFile(path);
     guarded(path, [&] {
         m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
@@ -203,7 +205,7 @@ void Store::refuseNewer() const {
 }
 
 void Store::refuseDamaged() const {
-    if (isSealed(m_path))
+    if (isSealed(m_path) || QFileInfo(m_path).size() == 0)
         return;
     if (const std::string fault = faultOf(*m_database); fault != "ok")
         fail(QString::fromStdString(fault), SQLITE_CORRUPT, m_path);
