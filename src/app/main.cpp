@@ -3,6 +3,7 @@
 #include "Pictures.h"
 #include "RootView.h"
 #include "SampleData.h"
+#include "SoleInstance.h"
 #include "platform/foundation/DesktopSettings.h"
 #include "platform/foundation/UserDefaults.h"
 
@@ -11,6 +12,7 @@
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <optional>
@@ -40,6 +42,12 @@ void preferColourEmoji() {
     QFont font = QGuiApplication::font();
     font.setFamilies({QFontInfo(font).family(), QStringLiteral("Noto Color Emoji")});
     QGuiApplication::setFont(font);
+}
+
+void raise(QWindow& window) {
+    window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
+    window.raise();
+    window.requestActivate();
 }
 
 int showGallery() {
@@ -89,6 +97,11 @@ int main(int argc, char** argv) {
 
     if (options->isGallery)
         return showGallery();
+    std::optional<SoleInstance> instance;
+    if (!scratch)
+        instance.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    if (instance && instance->handedOver())
+        return 0;
     const KovamoApp app;
     ManagedObjectContext& viewContext = app.persistenceController.container->viewContext();
     if (scratch)
@@ -100,6 +113,9 @@ int main(int argc, char** argv) {
     QQuickWindow& window = KovamoApp::showWindow(engine, root);
     if (options->pictures)
         return drawPictures(window, root, *options->pictures) ? 0 : 1;
+    if (instance)
+        QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
+                         [&] { raise(window); });
     const auto followMotion = [&] { window.setProperty("reducedMotion", desktop.reducedMotion()); };
     QObject::connect(&desktop, &DesktopSettings::reducedMotionChanged, &window, followMotion);
     return QGuiApplication::exec();

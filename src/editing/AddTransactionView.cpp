@@ -44,6 +44,7 @@ AddTransactionView::AddTransactionView(ManagedObjectContext& viewContext, Transa
     : QObject(parent), m_viewContext(viewContext), m_startDate(Clock::now()),
       m_endDate(m_startDate), m_existingTransaction(existing), m_selectedType(types().front()),
       m_selectedPositive(positiveTypes().front()) {
+    viewContext.prepareToSave();
     if (!existing)
         return;
     m_emoji = required(existing->id(), existing->emoji(), "emoji");

@@ -16,7 +16,9 @@ FetchRequest largestFirst() {
 } // namespace
 
 TransactionsView::TransactionsView(ManagedObjectContext& viewContext)
-    : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext) {}
+    : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext) {
+    viewContext.prepareToSave();
+}
 
 Transaction& TransactionsView::transaction(int row) const {
     return static_cast<Transaction&>(object(row));

@@ -3,14 +3,24 @@
 #include "Store.h"
 #include "StoreError.h"
 #include "platform/foundation/FatalError.h"
+#include "platform/foundation/MainQueue.h"
 
+#include <QPointer>
 #include <algorithm>
 #include <utility>
 
 namespace kovamo {
 
 ManagedObjectContext::ManagedObjectContext(Store& store, const EntityDescription& entity)
-    : m_store(store), m_entity(entity) {}
+    : m_store(store), m_entity(entity) {
+    connect(&m_look, &QTimer::timeout, this, [this] {
+        try {
+            mergeChanges();
+        } catch (const StoreError&) {
+            // The next fetch meets it again and fails where it is heard.
+        }
+    });
+}
 
 ManagedObjectContext::~ManagedObjectContext() = default;
 
@@ -115,7 +125,8 @@ void ManagedObjectContext::save() {
     announce();
     if (m_unsaved.isEmpty())
         return;
-    m_store.write(m_unsaved);
+    while (!m_store.write(m_unsaved))
+        renumberInserted();
     for (ManagedObject* object : m_unsaved.inserted)
         object->m_isInserted = false;
     for (ManagedObject* object : m_unsaved.updated)
@@ -125,6 +136,28 @@ void ManagedObjectContext::save() {
         m_deletedObjects.push_back(std::move(node.mapped()));
     }
     m_unsaved = {};
+}
+
+void ManagedObjectContext::renumberInserted() {
+    ObjectID id = m_store.unusedID();
+    for (ManagedObject* object : m_unsaved.inserted) {
+        auto node = m_objects.extract(object->objectID());
+        while (m_objects.contains(id))
+            ++id;
+        node.key() = object->m_objectID = id++;
+        m_objects.insert(std::move(node));
+    }
+    m_unannounced.everything = true;
+    announceLater();
+}
+
+void ManagedObjectContext::prepareToSave() {
+    constexpr int pages = 64;
+    constexpr std::chrono::milliseconds pause(5);
+    MainQueue::asyncAfter(pause, [context = QPointer(this)] {
+        if (context && !context->m_store.keepCopy(pages))
+            context->prepareToSave();
+    });
 }
 
 void ManagedObjectContext::announceLater(std::vector<ManagedObject*>& changes,
@@ -152,6 +185,12 @@ void ManagedObjectContext::announce() {
 
 void ManagedObjectContext::setAutomaticallyMergesChangesFromParent(bool merges) {
     m_mergesChanges = merges;
+    // Looking costs microseconds, and no file system tells when another process's save is whole.
+    m_look.setTimerType(Qt::VeryCoarseTimer);
+    if (merges)
+        m_look.start(std::chrono::seconds(1));
+    else
+        m_look.stop();
 }
 
 void ManagedObjectContext::mergeChanges() {

@@ -4,6 +4,7 @@
 #include "ManagedObject.h"
 
 #include <QObject>
+#include <QTimer>
 #include <unordered_map>
 
 namespace kovamo {
@@ -73,10 +74,14 @@ class ManagedObjectContext : public QObject {
     /// leaves the store as it was. Observers are told before the changes are written.
     void save();
 
+    /// Does ahead, in small steps of the main queue, what the first save of the day would have to
+    /// do before it writes. For the moment in which a screen opens that saves.
+    void prepareToSave();
+
     [[nodiscard]] bool hasChanges() const;
 
-    /// Whether what other writers save to the store shows here, at the next fetch or when the
-    /// store's files change.
+    /// Whether what other writers save to the store shows here: at the next fetch, and within a
+    /// second or two without one.
     void setAutomaticallyMergesChangesFromParent(bool merges);
 
   Q_SIGNALS:
@@ -93,6 +98,7 @@ class ManagedObjectContext : public QObject {
     void announceLater();
     void announce();
     void mergeChanges();
+    void renumberInserted();
     void mergePending(const FetchRequest& request, std::vector<ObjectID>& ids);
     void requireEntity(const FetchRequest& request) const;
 
@@ -104,6 +110,7 @@ class ManagedObjectContext : public QObject {
     ObjectChanges m_unannounced;
     bool m_willAnnounce = false;
     bool m_mergesChanges = false;
+    QTimer m_look;
 };
 
 } // namespace kovamo

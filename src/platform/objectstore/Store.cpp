@@ -343,18 +343,20 @@ void Store::prepareToWrite() {
         guarded(m_path, [&] { m_database->exec("PRAGMA journal_mode = WAL"); });
 }
 
-void Store::write(const ObjectChanges& changes) {
+bool Store::write(const ObjectChanges& changes) {
     const QString insertion = u"INSERT INTO " + m_table + u" (" + m_columns.join(u',') +
                               u",pk) VALUES (" + QStringLiteral("?,").repeated(m_columns.size()) +
                               u"?)";
     const QString update =
         u"UPDATE " + m_table + u" SET " + m_columns.join(QStringLiteral("=?,")) + u"=? WHERE pk=?";
     prepareToWrite();
-    guarded(m_path, [&] {
+    return guarded(m_path, [&] {
         SQLite::Statement inserting(*m_database, utf8(insertion));
         SQLite::Statement updating(*m_database, utf8(update));
         SQLite::Statement deleting(*m_database, utf8(u"DELETE FROM " + m_table + u" WHERE pk=?"));
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
+        if (!changes.inserted.empty() && changes.inserted.front()->objectID() < unusedID())
+            return false;
         for (const ManagedObject* object : changes.inserted)
             put(inserting, *object);
         for (const ManagedObject* object : changes.updated)
@@ -366,6 +368,7 @@ void Store::write(const ObjectChanges& changes) {
             deleting.reset();
         }
         transaction.commit();
+        return true;
     });
 }
 

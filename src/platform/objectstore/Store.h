@@ -43,8 +43,9 @@ class Store {
     /// Returns whether there is nothing left to do; a copy that fails is given up for the day.
     bool keepCopy(int pages);
 
-    /// Writes all of `changes`, durably when it returns, or none. Keeps the copy first.
-    void write(const ObjectChanges& changes);
+    /// Writes all of `changes`, durably when it returns, or none. Keeps the copy first. Returns
+    /// whether it could: not where another writer has taken the identity of an inserted record.
+    [[nodiscard]] bool write(const ObjectChanges& changes);
 
     /// Whether another writer has saved since this was last asked.
     [[nodiscard]] bool changedElsewhere();

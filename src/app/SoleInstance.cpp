@@ -1,0 +1,86 @@
+#include "SoleInstance.h"
+
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QThread>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <unistd.h>
+
+namespace kovamo {
+
+namespace {
+
+constexpr int patience = 3000;
+constexpr int pause = 20;
+constexpr int longestToken = 4096;
+constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";
+
+/// Where the processes for a data folder and a display meet.
+QString meetingPlace(const QString& folder) {
+    const QByteArray place =
+        folder.toUtf8() + '\n' + qgetenv("WAYLAND_DISPLAY") + '\n' + qgetenv("DISPLAY");
+    const QByteArray name = QCryptographicHash::hash(place, QCryptographicHash::Sha1).toHex();
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u"/kovamo-" +
+           QString::fromLatin1(name.first(16));
+}
+
+} // namespace
+
+SoleInstance::SoleInstance(const QString& folder) : m_path(meetingPlace(folder)) {
+    // The one there is may be on its way in or out: each turn looks at both.
+    for (const QDeadlineTimer deadline(patience); !deadline.hasExpired(); QThread::msleep(pause)) {
+        if (lock()) {
+            // What a killed process left.
+            QLocalServer::removeServer(m_path);
+            connect(&m_server, &QLocalServer::newConnection, this, &SoleInstance::answer);
+            m_server.setSocketOptions(QLocalServer::UserAccessOption);
+            m_server.listen(m_path);
+            return;
+        }
+        m_handedOver = ask();
+        if (m_handedOver)
+            return;
+    }
+}
+
+SoleInstance::~SoleInstance() {
+    m_server.close();
+    ::close(m_lockFile);
+}
+
+bool SoleInstance::lock() {
+    if (m_lockFile < 0)
+        m_lockFile = ::open(QFile::encodeName(m_path + u".lock").constData(),
+                            O_RDWR | O_CREAT | O_CLOEXEC, 0600);
+    return ::flock(m_lockFile, LOCK_EX | LOCK_NB) == 0;
+}
+
+bool SoleInstance::ask() const {
+    QLocalSocket socket;
+    socket.connectToServer(m_path);
+    if (!socket.waitForConnected(patience))
+        return false;
+    socket.write(qgetenv(tokenVariable) + '\n');
+    return socket.waitForBytesWritten(patience) && socket.waitForReadyRead(patience);
+}
+
+void SoleInstance::answer() {
+    QLocalSocket* socket = m_server.nextPendingConnection();
+    connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
+    connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
+        if (!socket->canReadLine())
+            return;
+        const QByteArray token = socket->readLine(longestToken).trimmed();
+        if (!token.isEmpty())
+            qputenv(tokenVariable, token);
+        Q_EMIT activationRequested();
+        socket->write("shown\n");
+        socket->disconnectFromServer();
+    });
+}
+
+} // namespace kovamo
