@@ -84,6 +84,9 @@ bool StoreCopy::step(int pages) {
 void StoreCopy::publish() {
     m_backup.reset();
     m_target.reset();
+    // The pages say that there is a log beside the file, as there is beside the store.
+    SQLite::Database(m_unfinished.path.toStdString(), SQLite::OPEN_READWRITE)
+        .exec("PRAGMA journal_mode = DELETE");
     const QString path = copyOfDay(m_storePath, Clock::now());
     if (std::rename(QFile::encodeName(m_unfinished.path).constData(),
                     QFile::encodeName(path).constData()) != 0)
