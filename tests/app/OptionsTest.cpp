@@ -57,5 +57,22 @@ TEST(Options, PicturesShowEveryScreenAndTouchNothingOfTheUsers) {
         EXPECT_TRUE(QDir(QString::fromUtf8(qgetenv(variable))).isEmpty()) << variable;
 }
 
+TEST(SecondStart, LeavesTheFirstAloneAndComesBackWhenThatIsKilled) {
+    const World world("2024-05-15 10:00");
+    qputenv("XDG_RUNTIME_DIR", world.folder().toUtf8());
+    for (int round = 0; round < 2; ++round) {
+        QProcess starts[2];
+        for (QProcess& start : starts)
+            start.start(QStringLiteral(KOVAMO_EXECUTABLE), QStringList());
+        int ended = 0;
+        while (!starts[ended].waitForFinished(50))
+            ended = 1 - ended;
+        EXPECT_EQ(starts[ended].exitCode(), 0);
+        EXPECT_EQ(starts[1 - ended].state(), QProcess::Running) << "nobody shows the window";
+        starts[1 - ended].kill();
+        starts[1 - ended].waitForFinished();
+    }
+}
+
 } // namespace
 } // namespace kovamo

@@ -37,6 +37,19 @@ QString copyOfDay(const QString& storePath, Instant now) {
     throw SQLite::Exception(what, SQLITE_IOERR);
 }
 
+/// Lets the copied pages say that no log belongs to them, as one does to the store's: the two
+/// versions of the file format in the database's header. Makes all of the file last.
+void completeAlone(const QString& path) {
+    constexpr char rollback[]{1, 1};
+    constexpr off_t formatVersions = 18;
+    const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
+    const ssize_t written = ::pwrite(file, rollback, sizeof rollback, formatVersions);
+    const bool isComplete = written == sizeof rollback && ::fsync(file) == 0;
+    ::close(file);
+    if (!isComplete)
+        fail("The copy cannot be completed");
+}
+
 /// Makes what was done to the names in a folder last.
 void syncFolder(const QString& folder) {
     const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
@@ -47,8 +60,8 @@ void syncFolder(const QString& folder) {
 } // namespace
 
 StoreCopy::StoreCopy(SQLite::Database& source, const QString& storePath)
-    : m_storePath(storePath),
-      m_unfinished{storePath + u"-copy-" + QString::number(QCoreApplication::applicationPid())} {
+    : m_storePath(storePath), m_unfinished{storePath + u"-copy-" +
+                                           QString::number(QCoreApplication::applicationPid())} {
     // What a killed process left. Should another one be at it right now, its copy fails to get its
     // name, and this one is as good.
     QDir folder = folderOf(storePath);
@@ -60,9 +73,9 @@ StoreCopy::StoreCopy(SQLite::Database& source, const QString& storePath)
         fail("The copy cannot be made");
     ::close(file);
     m_target.emplace(m_unfinished.path.toStdString(), SQLite::OPEN_READWRITE);
-    // Nobody opens the copy before it is whole.
+    // Nobody opens the copy before it is whole and on the disk.
     m_target->exec("PRAGMA journal_mode = OFF");
-    m_target->exec("PRAGMA synchronous = FULL");
+    m_target->exec("PRAGMA synchronous = OFF");
     m_backup.emplace(*m_target, source);
 }
 
@@ -84,9 +97,7 @@ bool StoreCopy::step(int pages) {
 void StoreCopy::publish() {
     m_backup.reset();
     m_target.reset();
-    // The pages say that there is a log beside the file, as there is beside the store.
-    SQLite::Database(m_unfinished.path.toStdString(), SQLite::OPEN_READWRITE)
-        .exec("PRAGMA journal_mode = DELETE");
+    completeAlone(m_unfinished.path);
     const QString path = copyOfDay(m_storePath, Clock::now());
     if (std::rename(QFile::encodeName(m_unfinished.path).constData(),
                     QFile::encodeName(path).constData()) != 0)

@@ -1,0 +1,317 @@
+#include "FaultyDisk.h"
+#include "editing/TransactionsView.h"
+#include "ledger/TransactionContainer.h"
+#include "model/PersistenceController.h"
+#include "support/Book.h"
+#include "support/FastQueue.h"
+
+#include <QDir>
+#include <SQLiteCpp/Database.h>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace kovamo {
+namespace {
+
+using Amounts = std::vector<std::int32_t>;
+
+/// How many rounds a test goes: `few`, or as many as the environment says.
+int rounds(int few) {
+    const QByteArray many = qgetenv("KOVAMO_ROUNDS");
+    return many.isEmpty() ? few : many.toInt();
+}
+
+std::vector<Transaction*> all(const Book& book) {
+    return book.context.fetch<Transaction>(Transaction::fetchRequest());
+}
+
+/// The text that goes with an amount, so that half a record would show.
+QString titleOf(std::int32_t amount) {
+    return QString(amount, u'x');
+}
+
+/// What a next start finds, in the order in which it was added.
+Amounts stored() {
+    const Book book({});
+    Amounts amounts;
+    for (const Transaction* transaction : all(book)) {
+        EXPECT_EQ(transaction->title(), titleOf(transaction->amount()));
+        amounts.push_back(transaction->amount());
+    }
+    return amounts;
+}
+
+void addAndSave(Book& book, const Amounts& amounts) {
+    for (const std::int32_t amount : amounts)
+        book.add({amount}).setTitle(titleOf(amount));
+    book.context.save();
+}
+
+/// Makes a few random changes in one save, to `amounts` and, if there is one, to `book`.
+void change(std::mt19937& random, Amounts& amounts, Book* book) {
+    for (auto changes = 1 + random() % 3; changes > 0; --changes) {
+        const auto amount = static_cast<std::int32_t>(random() % 3000);
+        const auto at = std::min<std::size_t>(random() % 60, amounts.size());
+        const bool isNew = at == amounts.size(), goes = !isNew && random() % 4 == 0;
+        if (book) {
+            Transaction& record = isNew ? book->add({}) : *all(*book)[at];
+            record.setAmount(amount);
+            record.setTitle(titleOf(amount));
+            if (goes)
+                book->context.deleteObject(record);
+        }
+        amounts.resize(std::max(amounts.size(), at + 1));
+        amounts[at] = amount;
+        if (goes)
+            amounts.erase(amounts.begin() + static_cast<std::ptrdiff_t>(at));
+    }
+    if (book)
+        book->context.save();
+}
+
+void saveForm(ManagedObjectContext& context, ManagedObject* existing, std::int32_t amount) {
+    AddTransactionView form(context, static_cast<Transaction*>(existing));
+    form.setEmoji(QStringLiteral("☕"));
+    form.setTitle(titleOf(amount));
+    form.setAmount(QString::number(amount));
+    form.save();
+}
+
+/// Opens the store and looks at everything; whether the indexes agree with the table itself, which
+/// a condition that no index knows makes the store walk.
+bool showsWhatIsThere() {
+    auto& context = PersistenceController::shared().container->viewContext();
+    TransactionContainer().fetchTransactions(3, context);
+    const TransactionsView list(context);
+    Amounts listed;
+    for (int row = 0; row < list.rowCount(); ++row) {
+        (void)list.data(list.index(row), TransactionsView::EmojiRole);
+        (void)list.data(list.index(row), TransactionsView::TitleRole);
+        listed.push_back(static_cast<Transaction&>(list.object(row)).amount());
+    }
+    const auto fetched = [&](const Predicate& predicate) {
+        FetchRequest request = Transaction::fetchRequest();
+        request.predicate = predicate;
+        return context.fetch<Transaction>(request);
+    };
+    auto table = fetched(Predicate(QStringLiteral("title != %@"), {QStringLiteral("?")}));
+    const bool isListed = listed.size() == table.size();
+    const Predicate year(QStringLiteral("startDate >= %@ AND startDate < %@ AND isRecurring == NO"),
+                         {at("2024-05-01"), at("2025-05-01")});
+    std::erase_if(table, [&](const Transaction* transaction) {
+        return !year.matches(Transaction::entity(), transaction->values());
+    });
+    return isListed && std::ranges::is_sorted(listed, std::greater()) && fetched(year) == table;
+}
+
+class NothingLost : public testing::Test {
+  protected:
+    NothingLost() { FaultyDisk::fail(SQLITE_OK, 0); }
+
+    /// The days whose copies are kept, each with the number of records in its copy.
+    [[nodiscard]] std::string kept() const {
+        std::string days;
+        for (const QFileInfo& file : folder.entryInfoList({QStringLiteral("Kovamo-*")})) {
+            EXPECT_FALSE(file.permission(QFile::ReadGroup) || file.permission(QFile::ReadOther));
+            SQLite::Database copy(file.filePath().toStdString());
+            days += file.fileName().mid(15, 2).toStdString() + ":" +
+                    copy.execAndGet("SELECT count(*) FROM \"Transaction\"").getString() + " ";
+        }
+        return days;
+    }
+
+    World world{"2024-05-15 10:00"};
+    QDir folder{world.folder() + u"/xdg_data_home/Kovamo"};
+    QFile store{folder.filePath(QStringLiteral("Kovamo.sqlite"))};
+};
+
+TEST_F(NothingLost, WhenKilledAtEveryCallAndAtAnyMoment) {
+    const int stride = rounds(60) < 500 ? 9 : 1;
+    Amounts amounts;
+    int call = 1, kills = 0;
+    for (unsigned round = 0; kills < rounds(60); ++round) {
+        const bool atCall = round % 2 == 0;
+        world.setTime(qPrintable(QStringLiteral("2024-05-%1").arg(10 + round % 7)));
+        const Fork worker([&] {
+            std::mt19937 random(round);
+            std::signal(SIGALRM, [](int) { std::raise(SIGKILL); });
+            FaultyDisk::fail(FaultyDisk::kill, atCall ? call : 0);
+            if (!atCall)
+                ::ualarm(static_cast<unsigned>(random()) % (1U << (10 + round % 7)), 0);
+            random.seed(round);
+            Book book({});
+            for (int save = 0; save < 12; ++save) {
+                change(random, amounts, &book);
+                std::fputc('.', stderr);
+            }
+        });
+        ASSERT_EQ(worker.said, std::string(worker.said.size(), '.')) << "round " << round;
+        kills += worker.signal == SIGKILL;
+        if (atCall)
+            call = worker.signal == SIGKILL ? call + stride : 1;
+        std::mt19937 random(round);
+        for (std::size_t save = 0; save < worker.said.size(); ++save)
+            change(random, amounts, nullptr);
+        Amounts inFlight = amounts;
+        change(random, inFlight, nullptr);
+        const Amounts found = stored();
+        ASSERT_TRUE(found == amounts || found == inFlight) << "round " << round;
+        amounts = found;
+        for (const QString& file : folder.entryList({QStringLiteral("*.sqlite")})) {
+            SQLite::Database database(folder.filePath(file).toStdString());
+            ASSERT_EQ(database.execAndGet("PRAGMA integrity_check").getString(), "ok") << round;
+        }
+    }
+}
+
+TEST_F(NothingLost, WhenAnyCallFails) {
+    const struct {
+        void (*work)(TransactionsView& all, ManagedObjectContext& context);
+        Amounts after;
+        bool isFatal = true;
+    } cases[] = {
+        {nullptr, {500, 300}}, // a start
+        {[](auto&, auto& context) { saveForm(context, nullptr, 700); }, {500, 300, 700}},
+        {[](auto& list, auto& context) { saveForm(context, &list.object(1), 200); }, {500, 200}},
+        {[](auto& list, auto&) { list.remove({0}); }, {300}, false},
+    };
+    for (const auto& [work, after, isFatal] : cases)
+        for (const int code : {SQLITE_IOERR, SQLITE_FULL})
+            for (int call = 1, came = 1; came; ++call) {
+                folder.removeRecursively();
+                (void)Fork([] {
+                    Book book({});
+                    addAndSave(book, {500, 300});
+                    std::raise(SIGKILL); // its log is left
+                });
+                const Fork app([&] {
+                    FaultyDisk::fail(work ? SQLITE_OK : code, call);
+                    auto& context = PersistenceController::shared().container->viewContext();
+                    TransactionsView list(context);
+                    if (work) {
+                        FaultyDisk::fail(code, call);
+                        work(list, context);
+                    }
+                    std::fputs(context.hasChanges() ? "pending" : "saved", stderr);
+                    std::fputs(FaultyDisk::hasFailed() ? "" : ", nothing failed", stderr);
+                });
+                came = app.said != "saved, nothing failed";
+                const bool stopped = app.said.starts_with("Fatal error: Unresolved error ");
+                const bool saved = app.said.starts_with("saved");
+                EXPECT_EQ(app.signal, stopped ? SIGABRT : 0) << app.said;
+                EXPECT_TRUE(saved || (isFatal ? stopped : app.said == "pending")) << app.said;
+                EXPECT_TRUE(folder.entryList({QStringLiteral("*-copy-*")}).isEmpty()) << call;
+                const Amounts found = stored();
+                EXPECT_TRUE(found == after || (found == Amounts{500, 300} && !saved)) << app.said;
+            }
+}
+
+TEST_F(NothingLost, WhenTheFileIsDamaged) {
+    std::mt19937 random(11);
+    {
+        Book book({});
+        for (int i = 0; i < 400; ++i)
+            book.add({static_cast<std::int32_t>(random() % 5000),
+                      qPrintable(QStringLiteral("2024-%1-03").arg(random() % 24)),
+                      i % 20 ? nullptr : "monthly"})
+                .setTitle(titleOf(static_cast<std::int32_t>(random() % 120)));
+        book.context.save();
+    }
+    const auto content = [&] {
+        EXPECT_TRUE(store.open(QIODevice::ReadOnly));
+        const QByteArray bytes = store.readAll();
+        store.close();
+        return bytes;
+    };
+    const QByteArray good = content();
+    const auto isRefused = [&](const QByteArray& bytes) {
+        EXPECT_TRUE(store.open(QIODevice::WriteOnly));
+        store.write(bytes);
+        store.close();
+        const Fork app([] { std::fputs(showsWhatIsThere() ? "right" : "wrong", stderr); });
+        EXPECT_TRUE(content() == bytes) << "it was written to";
+        const bool stopped = app.signal == SIGABRT && app.said.starts_with("Fatal error: ");
+        EXPECT_TRUE(stopped || (app.signal == 0 && app.said == "right")) << app.signal << app.said;
+        return stopped;
+    };
+    EXPECT_FALSE(isRefused(good));
+    constexpr qsizetype page = 4096;
+    for (qsizetype at = 0; at < good.size(); at += page) {
+        SCOPED_TRACE(at);
+        QByteArray noise(page, '\0');
+        std::ranges::generate(noise, [&] { return static_cast<char>(random()); });
+        for (const QByteArray& over : {QByteArray(page, '\0'), QByteArray(page, '\xff'), noise})
+            EXPECT_TRUE(isRefused(QByteArray(good).replace(at, page, over)));
+        EXPECT_TRUE(isRefused(good.first(at)) && isRefused(good.first(at + 100)));
+    }
+    for (int round = 0; round < rounds(200); ++round) {
+        const auto at = static_cast<qsizetype>(random()) % (round % 4 ? good.size() : page);
+        SCOPED_TRACE(at);
+        QByteArray bytes = good;
+        bytes[at] = static_cast<char>(bytes[at] ^ (1 << random() % 8));
+        (void)isRefused(bytes);
+    }
+}
+
+TEST_F(NothingLost, WhenTwoProcessesWrite) {
+    const Fork both([] {
+        const pid_t other = ::fork();
+        Book book({});
+        for (int i = 0; i < 60; ++i)
+            addAndSave(book, {i});
+        ::waitpid(other, nullptr, 0);
+    });
+    EXPECT_EQ(both.said, "");
+    EXPECT_EQ(stored().size(), 120U);
+}
+
+TEST_F(NothingLost, WhileTheStateBeforeTheFirstWriteIsKeptForThreeDays) {
+    {
+        Book book({});
+        addAndSave(book, {1, 2});
+        addAndSave(book, {3});
+    }
+    (void)stored();
+    EXPECT_EQ(kept(), "") << "at first there is nothing to keep, and looking writes nothing";
+    for (const char* expected : {"15:3 ", "15:4 "}) {
+        Book book({});
+        addAndSave(book, {4});
+        EXPECT_EQ(kept(), expected) << "a day's newest takes the place of the one before";
+    }
+    Book book({});
+    for (const char* day : {"2024-05-16 00:01", "2024-05-17", "2024-05-18"}) {
+        world.setTime(day);
+        addAndSave(book, {6});
+        addAndSave(book, {7});
+    }
+    EXPECT_EQ(kept(), "16:5 17:7 18:9 ");
+
+    ASSERT_TRUE(store.open(QIODevice::WriteOnly));
+    const Fork app([] { (void)PersistenceController::shared(); });
+    const QString copy = folder.filePath(QStringLiteral("Kovamo-2024-05-18.sqlite"));
+    EXPECT_TRUE(app.said.starts_with("Fatal error: Unresolved error The store has lost"))
+        << app.said;
+    EXPECT_TRUE(
+        app.said.ends_with("]\nThe newest copy of the store is " + copy.toStdString() + "\n"))
+        << app.said;
+    ASSERT_TRUE(store.remove() && QFile::copy(copy, store.fileName()));
+    EXPECT_EQ(stored().size(), 9U);
+}
+
+TEST_F(NothingLost, WhenTheCopyIsMadeAheadInSteps) {
+    FastQueue queue;
+    Book book({});
+    addAndSave(book, Amounts(100, 9000));
+    world.setTime("2024-05-16");
+    book.context.prepareToSave();
+    queue.advance(std::chrono::milliseconds(5));
+    EXPECT_EQ(kept(), "") << "there is more to copy than one step takes";
+    book.elsewhere("DELETE FROM \"Transaction\" WHERE pk > 90");
+    while (!queue.empty())
+        queue.advance(std::chrono::milliseconds(5));
+    addAndSave(book, {1});
+    EXPECT_EQ(kept(), "16:90 ");
+}
+
+} // namespace
+} // namespace kovamo
