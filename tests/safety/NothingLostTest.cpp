@@ -278,8 +278,7 @@ TEST_F(NothingLost, WhileTheStateBeforeTheFirstWriteIsKeptForThreeDays) {
         addAndSave(book, {4});
         EXPECT_EQ(kept(), expected) << "a day's newest takes the place of the one before";
     }
-    Book book({});
-    for (const char* day : {"2024-05-16 00:01", "2024-05-17", "2024-05-18"}) {
+    for (Book book({}); const char* day : {"2024-05-16 00:01", "2024-05-17", "2024-05-18"}) {
         world.setTime(day);
         addAndSave(book, {6});
         addAndSave(book, {7});

@@ -43,32 +43,6 @@ TEST(Context, HoldsOneObjectForARecord) {
     EXPECT_EQ(&ledger.context.object(added->objectID()), added);
 }
 
-TEST(Context, KeepsChangesPendingWhenASaveFails) {
-    const World world("2024-05-15 10:00");
-    Ledger ledger;
-    Entry& kept = ledger.add(1);
-    ledger.context.save();
-    ledger.elsewhere("CREATE TRIGGER refuse BEFORE INSERT ON Entry "
-                     "BEGIN SELECT RAISE(ABORT, 'no room'); END");
-
-    kept.set(Entry::Amount, std::int32_t{10});
-    ledger.add(2);
-    try {
-        ledger.context.save();
-        FAIL() << "the save went through";
-    } catch (const StoreError& error) {
-        EXPECT_EQ(error.description(), u"no room");
-        EXPECT_TRUE(error.userInfoDescription().contains(ledger.container.storePath()));
-    }
-    EXPECT_TRUE(ledger.context.hasChanges());
-    EXPECT_EQ(ledger.amounts(entries()), (Amounts{10, 2}));
-    EXPECT_EQ(Ledger().amounts(entries()), (Amounts{1})) << "the file took half of a save";
-
-    ledger.elsewhere("DROP TRIGGER refuse");
-    ledger.context.save();
-    EXPECT_EQ(Ledger().amounts(entries()), (Amounts{10, 2}));
-}
-
 TEST(Context, TellsOfChangesOnceForManyAndBeforeASaveEnds) {
     const World world("2024-05-15 10:00");
     Ledger ledger;
