@@ -3,7 +3,6 @@
 #include "ManagedObjectContext.h"
 #include "Soundness.h"
 #include "StoreError.h"
-#include "platform/foundation/Formatters.h"
 #include "platform/foundation/RadixSort.h"
 
 #include <QFileInfo>
@@ -318,7 +317,7 @@ ObjectID Store::unusedID() const {
 }
 
 bool Store::keepCopy(int pages) {
-    const QString today = dayText(Clock::now());
+    const CalendarDay today = Calendar().day(Clock::now());
     if (m_dayOfCopy == today)
         return true;
     try {

@@ -2,6 +2,7 @@
 
 #include "FetchRequest.h"
 #include "StoreCopy.h"
+#include "platform/foundation/Calendar.h"
 
 #include <QSet>
 #include <QStringList>
@@ -68,7 +69,7 @@ class Store {
     std::optional<SQLite::Statement> m_readRow;
     std::optional<SQLite::Statement> m_dataVersion;
     std::optional<StoreCopy> m_copy;
-    QString m_dayOfCopy;
+    std::optional<CalendarDay> m_dayOfCopy;
     bool m_wasWritten = false;
     int m_lastDataVersion = 0;
     // Texts that many records have in common are held once.
