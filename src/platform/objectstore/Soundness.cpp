@@ -47,8 +47,9 @@ QByteArray digest(const QString& path) {
 
 } // namespace
 
-std::string faultOf(SQLite::Database& database) {
-    return database.execAndGet("PRAGMA integrity_check(1)").getString();
+QString faultOf(SQLite::Database& database) {
+    const std::string verdict = database.execAndGet("PRAGMA integrity_check(1)").getString();
+    return verdict == "ok" ? QString() : QString::fromStdString(verdict).replace(u'\n', u' ');
 }
 
 bool isSealed(const QString& path) {

@@ -2,13 +2,12 @@
 
 #include <QString>
 #include <SQLiteCpp/Database.h>
-#include <string>
 
 namespace kovamo {
 
-/// What is wrong with a database, every index compared with its table: "ok", or the first fault.
+/// The first fault of a database, every index compared with its table; empty when it is sound.
 /// Reads all of it.
-[[nodiscard]] std::string faultOf(SQLite::Database& database);
+[[nodiscard]] QString faultOf(SQLite::Database& database);
 
 /// Whether the file at `path` has, byte for byte, the content that was last sealed. A fraction of
 /// the cost of faultOf(), and it sees what that cannot: a changed digit in an amount.

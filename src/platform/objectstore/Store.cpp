@@ -184,7 +184,7 @@ Store::Store(const QString& path, const EntityDescription& entity)
 
 Store::~Store() {
     try {
-        const bool isSound = m_wasWritten && faultOf(*m_database) == "ok";
+        const bool isSound = m_wasWritten && faultOf(*m_database).isEmpty();
         m_copy.reset();
         m_readRow.reset();
         m_dataVersion.reset();
@@ -206,8 +206,8 @@ void Store::refuseNewer() const {
 void Store::refuseDamaged() const {
     if (isSealed(m_path) || QFileInfo(m_path).size() == 0)
         return;
-    if (const std::string fault = faultOf(*m_database); fault != "ok")
-        fail(QString::fromStdString(fault), SQLITE_CORRUPT, m_path);
+    if (const QString fault = faultOf(*m_database); !fault.isEmpty())
+        fail(fault, SQLITE_CORRUPT, m_path);
     seal(m_path);
 }
 
