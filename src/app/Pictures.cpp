@@ -1,10 +1,13 @@
 #include "Pictures.h"
 
 #include "RootView.h"
+#include "SampleData.h"
+#include "platform/foundation/ReviewController.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QImage>
+#include <QQuickItem>
 #include <QQuickWindow>
 #include <cstdio>
 #include <functional>
@@ -12,6 +15,14 @@
 namespace kovamo {
 
 namespace {
+
+/// A phone as small as there are, a phone, the same on its side, and a tablet.
+constexpr QSize sizes[] = {{320, 480}, {390, 844}, {844, 390}, {820, 1180}};
+
+struct Picture {
+    const char* name;
+    std::function<void()> arrange;
+};
 
 /// Lets what is queued happen until nothing is left to do.
 void settle() {
@@ -21,42 +32,82 @@ void settle() {
     }
 }
 
-struct Picture {
-    const char* name;
-    std::function<void()> arrange;
-};
+/// The first visible item below `item` that has `property`; null for none.
+QQuickItem* itemWith(QQuickItem* item, const char* property) {
+    if (!item->isVisible() || item->property(property).isValid())
+        return item->isVisible() ? item : nullptr;
+    for (QQuickItem* child : item->childItems())
+        if (QQuickItem* found = itemWith(child, property))
+            return found;
+    return nullptr;
+}
 
-} // namespace
-
-bool drawPictures(QQuickWindow& window, RootView& root, const QString& folder) {
+/// Every screen, each a step on from the one before it.
+QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContext& context) {
     OnboardingView& onboarding = *root.onboarding();
     ContentView& content = *root.content();
-    QDir().mkpath(folder);
-    window.setProperty("reducedMotion", true);
-    const Picture pictures[] = {
+    const auto turnPage = [&] { onboarding.next(); };
+    const auto set = [&](const char* property, const QVariant& value) {
+        settle();
+        if (QQuickItem* item = itemWith(window.contentItem(), property))
+            item->setProperty(property, value);
+    };
+    return {
         {"onboarding-1", [] {}},
-        {"onboarding-2", [&] { onboarding.next(); }},
-        {"onboarding-3", [&] { onboarding.next(); }},
-        {"onboarding-4", [&] { onboarding.next(); }},
-        {"current-month", [&] { onboarding.next(); }},
+        {"onboarding-2", turnPage},
+        {"onboarding-3", turnPage},
+        {"onboarding-4", turnPage},
+        {"empty-store", turnPage},
+        {"current-month", [&] { addSampleData(context); }},
         {"three-months", [&] { content.select(2); }},
         {"twelve-months", [&] { content.select(3); }},
-        {"new-transaction", [&] { content.setShowAddTransaction(true); }},
-        {"new-recurring-transaction", [&] { content.addForm()->setIsRecurring(true); }},
+        {"rating-prompt", [&] { ReviewController::requestReview(window); }},
+        {"new-transaction",
+         [&] {
+             ReviewController::shared().dismiss();
+             content.setShowAddTransaction(true);
+         }},
+        {"calendar", [set] { set("unfolded", true); }},
+        {"recurring-transaction", [&] { content.addForm()->setIsRecurring(true); }},
         {"transactions",
          [&] {
              content.setShowAddTransaction(false);
              content.setShowTransactions(true);
          }},
+        {"swiped-row", [set] { set("offset", 100); }},
+        {"edit-transaction",
+         [&, set] {
+             set("offset", 0);
+             QMetaObject::invokeMethod(itemWith(window.contentItem(), "offset"), "clicked");
+         }},
     };
+}
+
+} // namespace
+
+bool drawPictures(QQuickWindow& window, RootView& root, ManagedObjectContext& context,
+                  const QList<ColorScheme>& appearances, const QString& folder) {
+    QDir().mkpath(folder);
+    window.setProperty("reducedMotion", true);
     bool wroteAll = true;
-    for (const Picture& picture : pictures) {
+    for (const Picture& picture : screens(window, root, context)) {
         picture.arrange();
-        settle();
-        const QString path = QDir(folder).absoluteFilePath(QLatin1String(picture.name) + u".png");
-        const bool wrote = window.grabWindow().save(path);
-        std::printf("%s\n", qPrintable(wrote ? path : u"cannot write " + path));
-        wroteAll = wroteAll && wrote;
+        for (const QSize& size : sizes)
+            for (const ColorScheme appearance : appearances) {
+                window.resize(size);
+                SystemColors::shared().setColorScheme(appearance);
+                settle();
+                const auto file =
+                    QStringLiteral("%1-%2x%3-%4.png")
+                        .arg(QLatin1String(picture.name))
+                        .arg(size.width())
+                        .arg(size.height())
+                        .arg(QLatin1String(appearance == ColorScheme::dark ? "dark" : "light"));
+                const QString path = QDir(folder).absoluteFilePath(file);
+                const bool wrote = window.grabWindow().save(path);
+                std::printf("%s\n", qPrintable(wrote ? path : u"cannot write " + path));
+                wroteAll = wroteAll && wrote;
+            }
     }
     return wroteAll;
 }

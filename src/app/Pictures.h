@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QString>
+#include "platform/foundation/SystemColors.h"
+#include "platform/objectstore/ManagedObjectContext.h"
 
 class QQuickWindow;
 
@@ -8,8 +9,11 @@ namespace kovamo {
 
 class RootView;
 
-/// Draws every screen of the app in `window` to a PNG in `folder` and prints the path of each.
-/// Returns whether all could be written.
-bool drawPictures(QQuickWindow& window, RootView& root, const QString& folder);
+/// Draws every screen of the app in `window`, at each size from a small phone's to a tablet's and
+/// in each of `appearances`, to PNG files "screen-WIDTHxHEIGHT-appearance.png" in `folder`, and
+/// prints the path of each. Returns whether all could be written. Requires: `context` is empty and
+/// is what `root` shows; sample data come into it on the way.
+bool drawPictures(QQuickWindow& window, RootView& root, ManagedObjectContext& context,
+                  const QList<ColorScheme>& appearances, const QString& folder);
 
 } // namespace kovamo

@@ -83,6 +83,8 @@ int main(int argc, char** argv) {
         std::printf("Sample data in a throwaway store: nothing is kept.\n");
         std::fflush(stdout);
     }
+    if (options->pictures && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     chooseRenderer();
     int toolkitArguments = 1;
     const QGuiApplication application(toolkitArguments, argv);
@@ -93,7 +95,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setLayoutDirection(RootView::isMirrored() ? Qt::RightToLeft : Qt::LeftToRight);
     if (options->appearance)
         SystemColors::shared().setColorScheme(*options->appearance);
-    DesktopSettings desktop(!options->appearance);
+    DesktopSettings desktop(!options->appearance && !options->pictures);
 
     if (options->isGallery)
         return showGallery();
@@ -104,15 +106,19 @@ int main(int argc, char** argv) {
         return 0;
     const KovamoApp app;
     ManagedObjectContext& viewContext = app.persistenceController.container->viewContext();
-    if (scratch)
+    if (options->isDemo && !options->pictures) {
         addSampleData(viewContext);
-    if (options->isDemo)
         UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
+    }
     RootView root(viewContext);
     QQmlApplicationEngine engine;
     QQuickWindow& window = KovamoApp::showWindow(engine, root);
-    if (options->pictures)
-        return drawPictures(window, root, *options->pictures) ? 0 : 1;
+    if (options->pictures) {
+        const QList<ColorScheme> both{ColorScheme::light, ColorScheme::dark};
+        const QList<ColorScheme> appearances =
+            options->appearance ? QList{*options->appearance} : both;
+        return drawPictures(window, root, viewContext, appearances, *options->pictures) ? 0 : 1;
+    }
     if (instance)
         QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
                          [&] { raise(window); });

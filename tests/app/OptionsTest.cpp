@@ -43,12 +43,14 @@ TEST(Options, PicturesShowEveryScreenAndTouchNothingOfTheUsers) {
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_FALSE(run.errors.contains(".qml")) << run.errors.toStdString();
     const QStringList files = pictures.entryList({QStringLiteral("*.png")});
-    EXPECT_GE(files.size(), 10);
+    EXPECT_GE(files.size(), 100);
     QSet<QByteArray> different;
     for (const QString& file : files) {
         EXPECT_TRUE(run.output.contains(pictures.filePath(file).toUtf8()));
         const QImage image(pictures.filePath(file));
-        EXPECT_EQ(image.size(), QSize(390, 844));
+        QImage blank(image.size(), image.format());
+        blank.fill(image.pixelColor(0, 0));
+        EXPECT_NE(image, blank) << file.toStdString();
         different.insert(
             QByteArray(reinterpret_cast<const char*>(image.constBits()), image.sizeInBytes()));
     }
