@@ -31,7 +31,7 @@ Item {
         anchors.leftMargin: Metrics.step * 2
         anchors.verticalCenter: parent.verticalCenter
         text: row.line.title
-        width: Math.min(implicitWidth, amountText.x - x - Metrics.step * 2 - (symbol.visible ? symbol.width + Metrics.step * 2 : 0))
+        width: Math.min(implicitWidth, row.width - emojiText.width - amountText.width - Metrics.padding * 2 - Metrics.step * 4 - (symbol.visible ? symbol.width + Metrics.step * 2 : 0))
     }
     SystemImage {
         id: symbol
