@@ -26,6 +26,7 @@ build_packages=(
     ninja-build
     qt6-base-dev
     qt6-declarative-dev
+    unicode-data
 )
 
 test_packages=(libgtest-dev strace tzdata)

@@ -67,7 +67,13 @@ QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContex
              ReviewController::shared().dismiss();
              content.setShowAddTransaction(true);
          }},
-        {"calendar", [set] { set("unfolded", true); }},
+        {"emoji", [set] { set("choosesEmoji", true); }},
+        {"emoji-search", [set] { set("query", QStringLiteral("car")); }},
+        {"calendar",
+         [set] {
+             set("choosesEmoji", false);
+             set("unfolded", true);
+         }},
         {"recurring-transaction", [&] { content.addForm()->setIsRecurring(true); }},
         {"transactions",
          [&] {

@@ -1,12 +1,20 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Editing
+import Kovamo.Emoji
 
 /*! The form through which a transaction is recorded or changed. */
 GroupedForm {
     id: form
 
     required property AddTransactionState transaction
+    /*! Whether the panel of emoji is open. */
+    property bool choosesEmoji: false
+
+    function choose(emoji: string) {
+        transaction.emoji = emoji;
+        choosesEmoji = false;
+    }
 
     navigationTitle: transaction.navigationTitle
 
@@ -21,6 +29,13 @@ GroupedForm {
             focus: true
             placeholder: qsTr("Emoji")
             text: form.transaction.emoji
+
+            trailing: BarButton {
+                symbol: "face.smiling"
+                text: qsTr("Choose an emoji")
+
+                onClicked: form.choosesEmoji = true
+            }
 
             onEdited: text => form.transaction.emoji = text
         }
@@ -86,5 +101,19 @@ GroupedForm {
 
             onClicked: form.transaction.save()
         }
+    }
+    Sheet {
+        presented: form.choosesEmoji
+
+        onDismissed: form.choosesEmoji = false
+
+        // What a sheet makes of a component here it makes elsewhere, where the toolkit refuses
+        // bound ones.
+        // qmllint disable unqualified
+        EmojiPanel {
+            onCancelled: form.choosesEmoji = false
+            onPicked: emoji => form.choose(emoji)
+        }
+        // qmllint enable unqualified
     }
 }

@@ -96,6 +96,8 @@ FormRow {
         id: accessories
 
         anchors.right: parent.right
+        // A button's symbol, in its middle, ends where the other rows end.
+        anchors.rightMargin: slot.children.length > 0 ? (Metrics.symbolSize - Metrics.rowHeight) / 2 : 0
         anchors.verticalCenter: parent.verticalCenter
 
         ClearButton {

@@ -1,0 +1,132 @@
+pragma ComponentBehavior: Bound
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Emoji
+import Kovamo.Foundation
+
+/*! Emoji by category, to scroll through or to walk along by the arrow keys. */
+Focusable {
+    id: grid
+
+    required property EmojiRows rows
+    /*! The category at the top. */
+    readonly property int category: Math.max(0, rows.categoryOf(list.indexAt(0, list.contentY + cellSide)))
+    readonly property real cellSide: Math.max(44, Math.ceil(sizer.height) + Metrics.step * 2)
+    readonly property int columns: Math.max(1, Math.floor((width - 4 * Metrics.step) / cellSide))
+    readonly property int back: LayoutMirroring.enabled ? 1 : -1
+    property alias bottomMargin: list.bottomMargin
+    /*! Whether the arrow keys have been used since the focus came. */
+    property bool walked: false
+
+    /*! The user chose an emoji. */
+    signal picked(string emoji)
+    /*! The keyboard walked out over the first row. */
+    signal leftAtTop
+
+    function show(shownCategory: int) {
+        rows.setCursorRow(rows.rowOf(shownCategory));
+        list.positionViewAtIndex(rows.cursorRow, ListView.Beginning);
+    }
+
+    function walk(by: int) {
+        walked = true;
+        rows.moveCursor(by);
+    }
+
+    function walkRow(by: int) {
+        walked = true;
+        if (!rows.moveCursorRow(by) && by < 0)
+            leftAtTop();
+    }
+
+    Accessible.name: activeFocus ? rows.cursorName : qsTr("Emoji")
+    Accessible.role: Accessible.List
+    Keys.onDownPressed: grid.walkRow(1)
+    Keys.onEnterPressed: grid.picked(grid.rows.cursorText)
+    Keys.onLeftPressed: grid.walk(back)
+    Keys.onReturnPressed: grid.picked(grid.rows.cursorText)
+    Keys.onRightPressed: grid.walk(-back)
+    Keys.onSpacePressed: grid.picked(grid.rows.cursorText)
+    Keys.onUpPressed: grid.walkRow(-1)
+    activeFocusOnTab: true
+
+    onActiveFocusChanged: walked = false
+    onColumnsChanged: rows.columns = columns
+
+    FontMetrics {
+        id: sizer
+
+        font: TextStyles.emoji
+    }
+    Connections {
+        function onCursorChanged() {
+            list.positionViewAtIndex(grid.rows.cursorRow, ListView.Contain);
+        }
+
+        target: grid.rows
+    }
+    ListView {
+        id: list
+
+        anchors.fill: parent
+        bottomMargin: Metrics.step * 2
+        clip: true
+        keyNavigationEnabled: false
+        model: grid.rows
+        reuseItems: true
+
+        delegate: Column {
+            id: row
+
+            required property int index
+            required property string heading
+            required property list<string> texts
+            required property list<string> names
+
+            width: list.width
+
+            // A row in waiting is nothing to a screen reader.
+            ListView.onPooled: visible = false
+            ListView.onReused: visible = true
+
+            PlainText {
+                Accessible.role: Accessible.Heading
+                bottomPadding: Metrics.step
+                color: SystemColors.secondaryLabel
+                font: TextStyles.bold(TextStyles.footnote)
+                leftPadding: Metrics.padding
+                rightPadding: Metrics.padding
+                text: row.heading
+                topPadding: Metrics.step * 3
+                visible: text !== ""
+                width: row.width
+            }
+            Row {
+                leftPadding: Metrics.step * 2
+                rightPadding: Metrics.step * 2
+
+                Repeater {
+                    model: grid.columns
+
+                    EmojiCell {
+                        required property int index
+
+                        emoji: row.texts[index] ?? ""
+                        height: grid.cellSide
+                        name: row.names[index] ?? ""
+                        ringed: (grid.visualFocus || grid.walked) && grid.rows.cursorRow === row.index && grid.rows.cursorColumn === index
+                        width: (list.width - 4 * Metrics.step) / grid.columns
+
+                        onPicked: grid.picked(emoji)
+                    }
+                }
+            }
+        }
+    }
+    PlainText {
+        anchors.centerIn: parent
+        color: SystemColors.secondaryLabel
+        text: qsTr("No emoji found")
+        visible: list.count === 0
+    }
+}
