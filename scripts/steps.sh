@@ -29,7 +29,15 @@ build_packages=(
     unicode-data
 )
 
-test_packages=(libgtest-dev strace tzdata)
+# The accessibility test starts a display and buses of its own; the privacy test traces the app.
+test_packages=(
+    at-spi2-core
+    dbus-daemon
+    libgtest-dev
+    strace
+    tzdata
+    xvfb
+)
 
 lint_packages=(clang-format)
 

@@ -4,6 +4,7 @@
 #include "RootView.h"
 #include "SampleData.h"
 #include "SoleInstance.h"
+#include "platform/controls/AccessibleItems.h"
 #include "platform/foundation/DesktopSettings.h"
 #include "platform/foundation/UserDefaults.h"
 
@@ -89,6 +90,7 @@ int main(int argc, char** argv) {
     int toolkitArguments = 1;
     const QGuiApplication application(toolkitArguments, argv);
     preferColourEmoji();
+    installAccessibleItems();
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Kovamo"));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.kovamo.Kovamo"));
 

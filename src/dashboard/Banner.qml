@@ -17,11 +17,15 @@ Item {
     ViewItem {
         id: ground
 
-        Accessible.name: card.balance.sentence
-        Accessible.role: Accessible.StaticText
         anchors.fill: parent
         anchors.margins: Metrics.padding
         view: card.balance.card
+    }
+    Announcement {
+        Accessible.name: text
+        Accessible.role: Accessible.Notification
+        anchors.fill: ground
+        text: card.balance.sentence
     }
     Column {
         id: words

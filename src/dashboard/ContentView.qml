@@ -87,7 +87,6 @@ FocusScope {
 
         Accessible.name: qsTr("Transactions of the time frame")
         Accessible.role: Accessible.List
-        activeFocusOnTab: true
         anchors.bottom: picker.top
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: divider.bottom

@@ -3,7 +3,7 @@ import Kovamo.Controls
 import Kovamo.Editing
 
 /*! A row of the period's list, for looking only. */
-Item {
+Focusable {
     id: row
 
     required property transactionLine line
@@ -11,6 +11,8 @@ Item {
 
     Accessible.name: line.sentence
     Accessible.role: Accessible.ListItem
+    activeFocusOnTab: ListView.isCurrentItem
+    focus: ListView.isCurrentItem
     implicitHeight: words.implicitHeight
 
     // A row in waiting is nothing to a screen reader.
@@ -30,5 +32,9 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Metrics.padding
         visible: row.hasDivider
+    }
+    FocusRing {
+        distance: -2
+        visible: row.visualFocus
     }
 }

@@ -33,12 +33,14 @@ FocusScope {
         spacing: Metrics.step
 
         PlainText {
+            Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
             font: TextStyles.headline
             text: row.chart.title
             visible: text !== ""
         }
         EmphasizedText {
+            Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
             color: SystemColors.gray
             markup: row.chart.range

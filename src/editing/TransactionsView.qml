@@ -39,6 +39,7 @@ NavigationStack {
             required property transactionLine line
 
             accessibleName: line.sentence
+            activeFocusOnTab: ListView.isCurrentItem
             focus: ListView.isCurrentItem
 
             // A row in waiting is nothing to a screen reader.

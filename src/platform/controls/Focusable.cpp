@@ -1,12 +1,50 @@
 #include "Focusable.h"
 
+#include <QGuiApplication>
+
 namespace kovamo {
+
+namespace {
+
+/// Sees by the app's events what the user last used.
+class LastUsed : public QObject {
+  public:
+    static const LastUsed& shared() {
+        static LastUsed& instance = *new LastUsed;
+        return instance;
+    }
+
+    [[nodiscard]] bool isKeyboard() const { return m_isKeyboard; }
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        const QEvent::Type type = event->type();
+        if (type == QEvent::KeyPress || type == QEvent::MouseButtonPress ||
+            type == QEvent::TouchBegin) {
+            m_isKeyboard = type == QEvent::KeyPress;
+            if (auto* focused = qobject_cast<Focusable*>(QGuiApplication::focusObject()))
+                focused->setVisualFocus(m_isKeyboard);
+        }
+        return false;
+    }
+
+  private:
+    // It goes with the app that it watches.
+    LastUsed() : QObject(QCoreApplication::instance()) {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+    bool m_isKeyboard = false;
+};
+
+} // namespace
+
+Focusable::Focusable(QQuickItem* parent) : QQuickItem(parent) {
+    static_cast<void>(LastUsed::shared());
+}
 
 void Focusable::focusInEvent(QFocusEvent* event) {
     QQuickItem::focusInEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    setVisualFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                   reason == Qt::ShortcutFocusReason);
+    setVisualFocus(LastUsed::shared().isKeyboard() && event->reason() != Qt::MouseFocusReason);
 }
 
 void Focusable::focusOutEvent(QFocusEvent* event) {

@@ -5,18 +5,21 @@
 
 namespace kovamo {
 
-/// An item that the Tab key reaches and that knows whether the keyboard brought the focus to it.
-/// The toolkit's own controls know it too, but insist on their accessible role.
+/// An item that the Tab key reaches and that knows whether the user is to see its focus: while the
+/// keyboard is used, and not the pointer. The toolkit's own controls know it too, but insist on
+/// their accessible role.
 class Focusable : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(bool visualFocus READ hasVisualFocus NOTIFY visualFocusChanged)
 
   public:
-    explicit Focusable(QQuickItem* parent = nullptr) : QQuickItem(parent) {}
+    explicit Focusable(QQuickItem* parent = nullptr);
 
     /// Whether the item has the focus and the user is to see it.
     [[nodiscard]] bool hasVisualFocus() const { return m_visualFocus; }
+
+    void setVisualFocus(bool visualFocus);
 
   Q_SIGNALS:
     void visualFocusChanged();
@@ -26,8 +29,6 @@ class Focusable : public QQuickItem {
     void focusOutEvent(QFocusEvent* event) override;
 
   private:
-    void setVisualFocus(bool visualFocus);
-
     bool m_visualFocus = false;
 };
 

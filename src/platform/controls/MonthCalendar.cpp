@@ -69,6 +69,10 @@ int MonthCalendar::cursor() const {
     return leadingCells() + m_cursor.day - 1;
 }
 
+QString MonthCalendar::cursorText() const {
+    return data(index(cursor()), FullText).toString();
+}
+
 bool MonthCalendar::canGoBack() const {
     return !isBeforeMinimum({m_cursor.year, m_cursor.month, 0});
 }

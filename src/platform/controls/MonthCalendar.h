@@ -23,6 +23,7 @@ class MonthCalendar : public QAbstractListModel {
     Q_PROPERTY(QStringList weekdays READ weekdays NOTIFY monthChanged)
     Q_PROPERTY(int weeks READ weeks NOTIFY monthChanged)
     Q_PROPERTY(int cursor READ cursor NOTIFY monthChanged)
+    Q_PROPERTY(QString cursorText READ cursorText NOTIFY monthChanged)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY monthChanged)
 
   public:
@@ -47,6 +48,8 @@ class MonthCalendar : public QAbstractListModel {
     [[nodiscard]] int weeks() const;
     /// The cell of the day that the keyboard moves.
     [[nodiscard]] int cursor() const;
+    /// The day at the cursor in words: "Wednesday, May 15, 2024".
+    [[nodiscard]] QString cursorText() const;
     /// Whether the month before this one has a day that can be picked.
     [[nodiscard]] bool canGoBack() const;
 

@@ -74,7 +74,8 @@ Column {
 
         readonly property int back: LayoutMirroring.enabled ? 1 : -1
 
-        Accessible.name: grid.calendar.title
+        Accessible.focusable: true
+        Accessible.name: activeFocus ? grid.calendar.cursorText : grid.calendar.title
         Accessible.role: Accessible.Table
         Keys.onDownPressed: grid.calendar.moveCursor(7)
         Keys.onEnterPressed: grid.calendar.pick(grid.calendar.cursor)

@@ -34,6 +34,15 @@ FocusScope {
     Keys.onBackPressed: event => event.accepted = stack.pop()
     Keys.onEscapePressed: event => event.accepted = stack.pop()
 
+    NavigationBar {
+        id: bar
+
+        canGoBack: stack.canGoBack
+        title: stack.titleOf(view.currentItem)
+        width: parent.width
+
+        onBack: stack.pop()
+    }
     T.StackView {
         id: view
 
@@ -59,16 +68,6 @@ FocusScope {
         onCurrentItemChanged: if (currentItem)
             currentItem.focus = true
     }
-    NavigationBar {
-        id: bar
-
-        canGoBack: stack.canGoBack
-        title: stack.titleOf(view.currentItem)
-        width: parent.width
-
-        onBack: stack.pop()
-    }
-
     component Slide: Transition {
         id: slide
 

@@ -18,6 +18,8 @@ T.AbstractButton {
     implicitWidth: Math.max(Metrics.rowHeight, implicitContentWidth + leftPadding + rightPadding)
     opacity: pressed ? 0.35 : 1
 
+    Accessible.onPressAction: pressable.clicked()
+
     Behavior on opacity  {
         enabled: !pressable.pressed
 

@@ -24,6 +24,9 @@ Focusable {
             control.picked(control.labels[next]);
     }
 
+    Accessible.description: labels.join(", ")
+    Accessible.focusable: true
+    Accessible.name: selected
     Accessible.role: Accessible.Grouping
     Keys.onLeftPressed: control.step(-1)
     Keys.onRightPressed: control.step(1)

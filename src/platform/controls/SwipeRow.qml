@@ -4,7 +4,7 @@ import Kovamo.Foundation
 
 /*! A row of a list that is pulled aside to uncover "Delete"; pulled far enough, it deletes. The
     Delete key and the row's menu do the same. */
-Focusable {
+DeletableRow {
     id: row
 
     /*! What a screen reader says for the whole row. */
@@ -16,11 +16,6 @@ Focusable {
     readonly property bool opened: offset > 0 && !drag.active
     readonly property real uncovered: Math.max(80, deleteText.implicitWidth + Metrics.padding * 2)
     readonly property int direction: LayoutMirroring.enabled ? 1 : -1
-
-    /*! The row was tapped, or Enter pressed on it. */
-    signal clicked
-    /*! The user wants the row to go. */
-    signal deleteRequested
 
     function close() {
         row.slide(0);
@@ -54,8 +49,6 @@ Focusable {
     implicitHeight: Metrics.rowHeight
     width: ListView.view ? ListView.view.width : implicitWidth
 
-    Accessible.onPressAction: clicked()
-
     NumberAnimation {
         id: movement
 
@@ -72,14 +65,10 @@ Focusable {
         clip: row.offset > 0
 
         Rectangle {
-            Accessible.name: deleteText.text
-            Accessible.role: Accessible.Button
             color: row.offset > 0 ? SystemColors.red : "transparent"
             height: parent.height
             width: Math.max(row.uncovered, row.offset)
             x: row.LayoutMirroring.enabled ? 0 : parent.width - width
-
-            Accessible.onPressAction: row.deleteRequested()
 
             PlainText {
                 id: deleteText

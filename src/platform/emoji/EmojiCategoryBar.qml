@@ -30,7 +30,7 @@ Item {
         Repeater {
             model: bar.categories
 
-            Pressable {
+            Focusable {
                 id: tab
 
                 required property int index
@@ -38,12 +38,16 @@ Item {
 
                 Accessible.checkable: true
                 Accessible.checked: bar.category === index
+                Accessible.name: modelData.title
                 Accessible.role: Accessible.PageTab
+                Keys.onEnterPressed: bar.picked(index)
+                Keys.onReturnPressed: bar.picked(index)
+                Keys.onSpacePressed: bar.picked(index)
+                activeFocusOnTab: true
                 height: Metrics.rowHeight
-                text: modelData.title
                 width: row.width / bar.categories.length
 
-                onClicked: bar.picked(index)
+                Accessible.onPressAction: bar.picked(index)
 
                 Rectangle {
                     anchors.centerIn: parent
@@ -53,6 +57,13 @@ Item {
                     visible: tab.Accessible.checked
                     width: Math.min(parent.width, parent.height)
                 }
+                TapHandler {
+                    id: tap
+
+                    gesturePolicy: TapHandler.ReleaseWithinBounds
+
+                    onTapped: bar.picked(tab.index)
+                }
                 PlainText {
                     Accessible.ignored: true
                     anchors.centerIn: parent
@@ -60,6 +71,7 @@ Item {
                     fontSizeMode: Text.HorizontalFit
                     horizontalAlignment: Text.AlignHCenter
                     minimumPointSize: TextStyles.footnote.pointSize / 2
+                    opacity: tap.pressed ? 0.35 : 1
                     text: tab.modelData.symbol
                     width: parent.width - Metrics.step * 2
                 }

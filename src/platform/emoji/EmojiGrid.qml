@@ -15,8 +15,6 @@ Focusable {
     readonly property int columns: Math.max(1, Math.floor((width - 4 * Metrics.step) / cellSide))
     readonly property int back: LayoutMirroring.enabled ? 1 : -1
     property alias bottomMargin: list.bottomMargin
-    /*! Whether the arrow keys have been used since the focus came. */
-    property bool walked: false
 
     /*! The user chose an emoji. */
     signal picked(string emoji)
@@ -28,29 +26,23 @@ Focusable {
         list.positionViewAtIndex(rows.cursorRow, ListView.Beginning);
     }
 
-    function walk(by: int) {
-        walked = true;
-        rows.moveCursor(by);
-    }
-
     function walkRow(by: int) {
-        walked = true;
         if (!rows.moveCursorRow(by) && by < 0)
             leftAtTop();
     }
 
+    Accessible.focusable: true
     Accessible.name: activeFocus ? rows.cursorName : qsTr("Emoji")
-    Accessible.role: Accessible.List
+    Accessible.role: Accessible.Grouping
     Keys.onDownPressed: grid.walkRow(1)
     Keys.onEnterPressed: grid.picked(grid.rows.cursorText)
-    Keys.onLeftPressed: grid.walk(back)
+    Keys.onLeftPressed: grid.rows.moveCursor(back)
     Keys.onReturnPressed: grid.picked(grid.rows.cursorText)
-    Keys.onRightPressed: grid.walk(-back)
+    Keys.onRightPressed: grid.rows.moveCursor(-back)
     Keys.onSpacePressed: grid.picked(grid.rows.cursorText)
     Keys.onUpPressed: grid.walkRow(-1)
     activeFocusOnTab: true
 
-    onActiveFocusChanged: walked = false
     onColumnsChanged: rows.columns = columns
 
     FontMetrics {
@@ -68,6 +60,8 @@ Focusable {
     ListView {
         id: list
 
+        Accessible.name: qsTr("Emoji")
+        Accessible.role: Accessible.List
         anchors.fill: parent
         bottomMargin: Metrics.step * 2
         clip: true
@@ -114,7 +108,7 @@ Focusable {
                         emoji: row.texts[index] ?? ""
                         height: grid.cellSide
                         name: row.names[index] ?? ""
-                        ringed: (grid.visualFocus || grid.walked) && grid.rows.cursorRow === row.index && grid.rows.cursorColumn === index
+                        ringed: grid.visualFocus && grid.rows.cursorRow === row.index && grid.rows.cursorColumn === index
                         width: (list.width - 4 * Metrics.step) / grid.columns
 
                         onPicked: grid.picked(emoji)

@@ -1,0 +1,240 @@
+#include "support/World.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusReply>
+#include <QProcess>
+#include <QRect>
+#include <QSet>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace kovamo {
+namespace {
+
+/// An element of the tree that a screen reader reads.
+struct Element {
+    QString service;
+    QDBusObjectPath path;
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const Element& element) {
+    argument.beginStructure();
+    argument << element.service << element.path;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, Element& element) {
+    argument.beginStructure();
+    argument >> element.service >> element.path;
+    argument.endStructure();
+    return argument;
+}
+
+/// A program that says by its first line what it is reached by.
+class Server : public QProcess {
+  public:
+    Server(const QString& program, const QStringList& arguments) {
+        start(program, arguments);
+        while (!canReadLine())
+            if (!waitForReadyRead(30000))
+                return;
+        address = QString::fromUtf8(readLine().trimmed());
+    }
+    ~Server() override {
+        kill();
+        waitForFinished();
+    }
+    QString address;
+};
+
+} // namespace
+} // namespace kovamo
+
+Q_DECLARE_METATYPE(kovamo::Element)
+
+namespace kovamo {
+namespace {
+
+const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
+const QString action = QStringLiteral("org.a11y.atspi.Action");
+constexpr int focused = 12, showing = 25;
+
+/// The app on a display and on buses of its own, as a screen reader finds it.
+class Bus : public QObject, public testing::Test {
+    Q_OBJECT
+
+  protected:
+    Bus() {
+        qDBusRegisterMetaType<Element>();
+        qDBusRegisterMetaType<QList<Element>>();
+        const QDBusReply<QString> address =
+            QDBusConnection::connectToBus(session.address, QStringLiteral("session"))
+                .call(QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus",
+                                                     "org.a11y.Bus", "GetAddress"));
+        bus = QDBusConnection::connectToBus(address.value(), QStringLiteral("accessibility"));
+        bus.connect({}, {}, "org.a11y.atspi.Event.Object", "StateChanged", this,
+                    SLOT(hear(QDBusMessage)));
+        call({registry.service, QDBusObjectPath("/org/a11y/atspi/registry")},
+             "org.a11y.atspi.Registry", "RegisterEvent", {"object:", QStringList(), ""});
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", session.address);
+        environment.insert("DISPLAY", u':' + display.address);
+        environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+        environment.insert("QT_QPA_PLATFORM", "xcb");
+        app.setProcessEnvironment(environment);
+        app.start(QStringLiteral(KOVAMO_EXECUTABLE), {QStringLiteral("--demo")});
+    }
+    ~Bus() override {
+        app.kill();
+        app.waitForFinished();
+        for (const char* name : {"session", "accessibility"})
+            QDBusConnection::disconnectFromBus(QString::fromLatin1(name));
+    }
+
+    QDBusMessage call(const Element& element, const QString& interface, const QString& method,
+                      const QVariantList& arguments = {}) const {
+        QDBusMessage message =
+            QDBusMessage::createMethodCall(element.service, element.path.path(), interface, method);
+        message.setArguments(arguments);
+        return bus.call(message);
+    }
+    QString property(const Element& element, const char* name) const {
+        const QDBusReply<QVariant> value = call(element, "org.freedesktop.DBus.Properties", "Get",
+                                                {accessible, QString::fromLatin1(name)});
+        return value.value().toString();
+    }
+    QString role(const Element& element) const {
+        return QDBusReply<QString>(call(element, accessible, "GetRoleName"));
+    }
+    bool is(int state, const Element& element) const {
+        const QDBusReply<QList<uint>> states = call(element, accessible, "GetState");
+        return states.value().value(0) >> state & 1;
+    }
+    QRect area(const Element& element) const {
+        const QDBusMessage extents =
+            call(element, "org.a11y.atspi.Component", "GetExtents", {uint(0)});
+        const auto four = extents.arguments().value(0).value<QDBusArgument>();
+        int x = 0, y = 0, width = 0, height = 0;
+        four.beginStructure();
+        four >> x >> y >> width >> height;
+        return {x, y, width, height};
+    }
+
+    /// Every element that shows below `parent`, in the order of the tree. Where `complaints` is
+    /// given, notes what cannot be told apart by its name and what lies above what is read before.
+    QList<Element> read(const Element& parent, QStringList* complaints = nullptr) const {
+        static const QSet<QString> interactive{"push button", "radio button", "check box",
+                                               "text",        "page tab",     "list item",
+                                               "chart",       "heading"};
+        QList<Element> found;
+        QRect before;
+        const QDBusReply<QList<Element>> children = call(parent, accessible, "GetChildren");
+        for (const Element& child : children.value()) {
+            if (!is(showing, child))
+                continue;
+            found.append(child);
+            if (complaints) {
+                const QString name = role(child) + u' ' + property(child, "Name");
+                if (interactive.contains(role(child)) && property(child, "Name").isEmpty())
+                    complaints->append(u"no name: " + name);
+                const QRect place = area(child);
+                if (role(child) != u"dialog" && place.y() + place.height() < before.y())
+                    complaints->append(u"read too late: " + name);
+                before = place;
+            }
+            found.append(read(child, complaints));
+        }
+        return found;
+    }
+    std::string complaints() const {
+        QStringList all;
+        EXPECT_GT(read(registry, &all).size(), 10);
+        return all.join(u'\n').toStdString();
+    }
+    Element find(const char* name, const char* description = "") const {
+        for (const Element& element : read(registry))
+            if (property(element, "Name") == QString::fromUtf8(name) &&
+                (!*description || property(element, "Description") == QLatin1String(description)))
+                return element;
+        return {};
+    }
+    Element await(const char* name, const char* description = "") const {
+        Element found;
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return !(found = find(name, description)).service.isEmpty(); }, 60000))
+            << name;
+        return found;
+    }
+    bool awaitNo(const char* name) const {
+        return QTest::qWaitFor([&] { return find(name).service.isEmpty(); }, 60000);
+    }
+    /// Does what the element offers by the name `what`, once it offers it.
+    void act(const Element& element, const QString& what = QStringLiteral("Press")) const {
+        for (int i = 0; i < 4; ++i)
+            if (QDBusReply<QString>(call(element, action, "GetName", {i})).value() == what) {
+                call(element, action, "DoAction", {i});
+                return;
+            }
+        ADD_FAILURE() << property(element, "Name").toStdString() << " lacks " << what.toStdString();
+    }
+
+    const Element registry{"org.a11y.atspi.Registry",
+                           QDBusObjectPath("/org/a11y/atspi/accessible/root")};
+    World world{"2024-05-15 10:00"};
+    Server session{"dbus-daemon", {"--session", "--print-address", "--nofork"}};
+    Server display{"Xvfb", {"-displayfd", "1", "-screen", "0", "400x900x24"}};
+    QDBusConnection bus{QString()};
+    QStringList said;
+    QProcess app;
+
+  public Q_SLOTS:
+    void hear(const QDBusMessage& event) {
+        const Element element{event.service(), QDBusObjectPath(event.path())};
+        if (event.arguments().value(0).toString() == u"showing" && role(element) == u"notification")
+            said.append(property(element, "Name"));
+    }
+};
+
+TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
+    const Element tab = await("3 Months");
+    EXPECT_EQ(complaints(), "");
+    await("Salary, earning, $3,200, recurring");
+    said.clear();
+    act(tab);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }, 60000));
+    EXPECT_TRUE(said.value(0).startsWith(u"Your Kovamo is positive 👍. Balance $"));
+
+    const Element button = await("Add Item", "Shows all transactions");
+    act(button, QStringLiteral("SetFocus"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return is(focused, button); }, 60000));
+    act(button);
+    const Element row = await("Rent, spending, $1,150, recurring");
+    EXPECT_TRUE(read(row).isEmpty()) << "a row reads as one";
+    EXPECT_EQ(complaints(), "");
+    EXPECT_FALSE(is(focused, button));
+    act(row, QStringLiteral("Delete"));
+    EXPECT_TRUE(awaitNo("Rent, spending, $1,150, recurring"));
+    act(await("Dismiss"));
+    EXPECT_TRUE(awaitNo("Dismiss"));
+    EXPECT_TRUE(is(focused, button)) << "the sheet gives the focus back";
+
+    act(await("Add Item", "Records a new transaction"));
+    const Element choose = await("Choose an emoji");
+    EXPECT_EQ(complaints(), "");
+    act(choose);
+    const Element pizza = await("pizza");
+    EXPECT_EQ(complaints(), "");
+    act(pizza);
+    EXPECT_TRUE(awaitNo("Search emoji"));
+    const QDBusReply<QString> field =
+        call(await("Emoji"), "org.a11y.atspi.Text", "GetText", {0, -1});
+    EXPECT_EQ(field.value(), QString::fromUtf8("🍕"));
+}
+
+} // namespace
+} // namespace kovamo
+
+#include "BusTest.moc"
