@@ -28,7 +28,9 @@ Window {
         target: Motion
         value: window.reducedMotion
     }
+    // A sheet or menu that is on its way keeps the window's shortcuts to itself.
     Shortcut {
+        context: Qt.ApplicationShortcut
         sequence: "Ctrl+Q"
 
         onActivated: Qt.quit()

@@ -40,8 +40,12 @@ void chooseRenderer() {
 /// Puts the colour emoji font right behind the system's own, before fonts that draw the same
 /// characters in black.
 void preferColourEmoji() {
+    const QString colourEmoji = QStringLiteral("Noto Color Emoji");
     QFont font = QGuiApplication::font();
-    font.setFamilies({QFontInfo(font).family(), QStringLiteral("Noto Color Emoji")});
+    // Text fields have a font of their own and are not asked for its families.
+    const QStringList families{QFontInfo(font).family(), colourEmoji};
+    QFont::insertSubstitutions(font.family(), families);
+    font.setFamilies(families);
     QGuiApplication::setFont(font);
 }
 

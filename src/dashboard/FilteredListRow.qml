@@ -11,7 +11,7 @@ Focusable {
 
     Accessible.name: line.sentence
     Accessible.role: Accessible.ListItem
-    activeFocusOnTab: ListView.isCurrentItem
+    activeFocusOnTab: ListView.isCurrentItem || activeFocus
     focus: ListView.isCurrentItem
     implicitHeight: words.implicitHeight
 

@@ -39,7 +39,7 @@ NavigationStack {
             required property transactionLine line
 
             accessibleName: line.sentence
-            activeFocusOnTab: ListView.isCurrentItem
+            activeFocusOnTab: ListView.isCurrentItem || activeFocus
             focus: ListView.isCurrentItem
 
             // A row in waiting is nothing to a screen reader.

@@ -101,6 +101,7 @@ FormRow {
         anchors.verticalCenter: parent.verticalCenter
 
         ClearButton {
+            anchors.verticalCenter: parent.verticalCenter
             visible: input.activeFocus && input.length > 0
 
             onClicked: field.edited("")

@@ -64,6 +64,7 @@ Focusable {
         Accessible.role: Accessible.List
         anchors.fill: parent
         bottomMargin: Metrics.step * 2
+        cacheBuffer: 0
         clip: true
         keyNavigationEnabled: false
         model: grid.rows
@@ -108,7 +109,7 @@ Focusable {
                         emoji: row.texts[index] ?? ""
                         height: grid.cellSide
                         name: row.names[index] ?? ""
-                        ringed: grid.visualFocus && grid.rows.cursorRow === row.index && grid.rows.cursorColumn === index
+                        ringed: grid.visualFocus && grid.rows.cursorRow === row?.index && grid.rows.cursorColumn === index
                         width: (list.width - 4 * Metrics.step) / grid.columns
 
                         onPicked: grid.picked(emoji)

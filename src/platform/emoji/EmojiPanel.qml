@@ -23,7 +23,7 @@ FocusScope {
     }
 
     Keys.onPressed: event => {
-        event.accepted = event.text.trim() !== "" && (event.modifiers & Qt.ControlModifier) === 0 && !search.activeFocus;
+        event.accepted = event.key < Qt.Key_Escape && event.text.trim() !== "" && (event.modifiers & Qt.ControlModifier) === 0 && !search.activeFocus;
         if (!event.accepted)
             return;
         rows.query += event.text;
