@@ -57,8 +57,17 @@ Window {
             digits: window.root.digits
         }
     }
+    Component {
+        id: reviewPrompt
+
+        ReviewPrompt {
+            sheetPresented: window.root.content.showAddTransaction || window.root.content.showTransactions
+        }
+    }
     // qmllint enable unqualified
-    ReviewPrompt {
-        sheetPresented: window.root.content.showAddTransaction || window.root.content.showTransactions
+    // What does not show at first is made after the first frame.
+    Loader {
+        asynchronous: true
+        sourceComponent: reviewPrompt
     }
 }

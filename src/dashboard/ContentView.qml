@@ -129,24 +129,33 @@ FocusScope {
 
         onPicked: value => screen.content.select(value)
     }
-    Sheet {
-        presented: screen.content.showAddTransaction
+    // What does not show at first is made after the first frame.
+    Loader {
+        asynchronous: true
 
-        onDismissed: screen.content.showAddTransaction = false
+        sourceComponent: Sheet {
+            presented: screen.content.showAddTransaction
 
-        NavigationStack {
-            initialPage: AddTransactionView {
-                transaction: screen.content.addForm
+            onDismissed: screen.content.showAddTransaction = false
+
+            NavigationStack {
+                initialPage: AddTransactionView {
+                    transaction: screen.content.addForm
+                }
             }
         }
     }
-    Sheet {
-        presented: screen.content.showTransactions
+    Loader {
+        asynchronous: true
 
-        onDismissed: screen.content.showTransactions = false
+        sourceComponent: Sheet {
+            presented: screen.content.showTransactions
 
-        TransactionsView {
-            transactions: screen.content.allTransactions
+            onDismissed: screen.content.showTransactions = false
+
+            TransactionsView {
+                transactions: screen.content.allTransactions
+            }
         }
     }
 }

@@ -34,10 +34,10 @@ Item {
 
         layoutDirection: Qt.RightToLeft
 
-        // Places count from the right, so that the ones stay the ones when a digit is added. The
-        // largest 64-bit number has 19 digits and, at most, a separator for every second.
+        // Places count from the right, so that the ones stay the ones when a digit is added. More
+        // than twelve, which few accounts need, are made anew when their number changes.
         Repeater {
-            model: 30
+            model: Math.max(12, number.characters.length)
 
             RollingDigit {
                 required property int index

@@ -1,0 +1,7 @@
+import QtQuick
+
+Window {
+    height: 844
+    visible: true
+    width: 390
+}
