@@ -18,16 +18,28 @@ constexpr double displayFrame = 1000.0 / 60;
 constexpr int lifetime = 100'000;
 constexpr int stress = 1'000'000;
 constexpr Ledger lifetimeLedger{lifetime, 8'700};
+constexpr Ledger stressstressLedger;
 constexpr double pointsAFrame = 400;
 
-RunningApp& running(const Ledger& ledger) {
-    // Never destroyed: the windows would outlive the toolkit.
-    static auto& apps = *new std::map<std::pair<int, int>, std::unique_ptr<RunningApp>>;
-    auto& app = apps[{ledger.stored, ledger.inFrame}];
-    if (!app)
-        app = std::make_unique<RunningApp>(ledger);
-    return *app;
-}
+/// The apps that run, by what their stores hold.
+class Apps {
+  public:
+    RunningApp& operator()(const Ledger& ledger) {
+        auto& place = m_places[{ledger.stored, ledger.inFrame}];
+        if (!place.app) {
+            makeStore(place.folder, ledger);
+            place.app = std::make_unique<RunningApp>();
+        }
+        return *place.app;
+    }
+
+  private:
+    struct Place {
+        QTemporaryDir folder;
+        std::unique_ptr<RunningApp> app;
+    };
+    std::map<std::pair<int, int>, Place> m_places;
+};
 
 void select(RunningApp& app, TimeFrame timeFrame) {
     app.content().select(timeFrame);
@@ -35,8 +47,8 @@ void select(RunningApp& app, TimeFrame timeFrame) {
 }
 
 /// From the tap on the picker until everything is gathered and laid out.
-void frameChange(benchmark::State& state, Ledger ledger) {
-    RunningApp& app = running(ledger);
+void frameChange(benchmark::State& state, Apps& apps, Ledger ledger) {
+    RunningApp& app = apps(ledger);
     select(app, 3);
     for (auto _ : state) {
         state.PauseTiming();
@@ -46,15 +58,15 @@ void frameChange(benchmark::State& state, Ledger ledger) {
     }
 }
 
-void plainLoop(benchmark::State& state) {
-    PlainLoop& plain = running(lifetimeLedger).plain();
+void plainLoop(benchmark::State& state, Apps& apps) {
+    PlainLoop& plain = apps(lifetimeLedger).plain();
     for (auto _ : state)
         benchmark::DoNotOptimize(plain.sum());
 }
 
 /// From the press of "Save" until everything is laid out with the new record.
-void save(benchmark::State& state) {
-    RunningApp& app = running(lifetimeLedger);
+void save(benchmark::State& state, Apps& apps) {
+    RunningApp& app = apps(lifetimeLedger);
     select(app, 3);
     for (auto _ : state) {
         state.PauseTiming();
@@ -69,22 +81,22 @@ void save(benchmark::State& state) {
 }
 
 /// One more layout of what is shown: what a save costs beside the writing.
-void layout(benchmark::State& state) {
-    RunningApp& app = running(lifetimeLedger);
+void layout(benchmark::State& state, Apps& apps) {
+    RunningApp& app = apps(lifetimeLedger);
     select(app, 3);
     for (auto _ : state)
         select(app, 3);
 }
 
-void plainInsert(benchmark::State& state) {
-    PlainLoop& plain = running(lifetimeLedger).plain();
+void plainInsert(benchmark::State& state, Apps& apps) {
+    PlainLoop& plain = apps(lifetimeLedger).plain();
     for (auto _ : state)
         plain.insert();
 }
 
 /// From Ctrl+L until the list stands in its sheet.
-void openList(benchmark::State& state) {
-    RunningApp& app = running({stress, 1'000});
+void openList(benchmark::State& state, Apps& apps) {
+    RunningApp& app = apps(stressLedger);
     for (auto _ : state) {
         app.content().setShowTransactions(true);
         app.layOut();
@@ -95,8 +107,8 @@ void openList(benchmark::State& state) {
     }
 }
 
-void plainSelect(benchmark::State& state) {
-    PlainLoop& plain = running({stress, 1'000}).plain();
+void plainSelect(benchmark::State& state, Apps& apps) {
+    PlainLoop& plain = apps(stressLedger).plain();
     for (auto _ : state)
         benchmark::DoNotOptimize(plain.countByAmount());
 }
@@ -143,7 +155,7 @@ void printRow(const char* what, double figure, const char* against, double refer
                 figure / reference, goal);
 }
 
-void printRows(const Medians& median) {
+void printRows(const Medians& median, Apps& apps) {
     const double change = median["change the time frame"], plain = median["plain loop"];
     printRow("change of time frame, 100,000 stored, 8,700 in it", change,
              "plain SQLite loop over the same queries", plain, 1);
@@ -158,7 +170,7 @@ void printRows(const Medians& median) {
     printRow("opening all transactions, 1,000,000 stored", median["open the list"],
              "plain SELECT of the row ids", median["plain select"], 1.5);
 
-    RunningApp& app = running(lifetimeLedger);
+    RunningApp& app = apps(lifetimeLedger);
     for (const char* list : {"the time frame's list", "all transactions"}) {
         int shown = 0;
         const int missed = missedFrames(app, shown);
@@ -179,8 +191,9 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     benchmark::Initialize(&argc, argv);
     const QGuiApplication application(argc, argv);
-    const auto add = [](const char* name, auto&&... work) {
-        benchmark::RegisterBenchmark(name, work...)
+    Apps apps;
+    const auto add = [&apps](const char* name, auto work, auto... more) {
+        benchmark::RegisterBenchmark(name, work, std::ref(apps), more...)
             ->Unit(benchmark::kMillisecond)
             ->MinTime(0.3)
             ->Repetitions(7)
@@ -190,7 +203,7 @@ int main(int argc, char** argv) {
     add("plain loop", plainLoop);
     add("frame of 1,000, 10,000 stored", frameChange, Ledger{10'000, 1'000});
     add("frame of 1,000, 100,000 stored", frameChange, Ledger{lifetime, 1'000});
-    add("frame of 1,000, 1,000,000 stored", frameChange, Ledger{stress, 1'000});
+    add("frame of 1,000, 1,000,000 stored", frameChange, stressLedger);
     add("open the list", openList);
     add("plain select", plainSelect);
     add("plain insert", plainInsert);
@@ -198,5 +211,5 @@ int main(int argc, char** argv) {
     add("save", save);
     Medians medians;
     benchmark::RunSpecifiedBenchmarks(&medians);
-    printRows(medians);
+    printRows(medians, apps);
 }

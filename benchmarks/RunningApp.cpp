@@ -25,14 +25,16 @@ std::unique_ptr<PersistentContainer> loaded() {
 
 } // namespace
 
-RunningApp::RunningApp(const Ledger& ledger) {
-    qputenv("XDG_DATA_HOME", m_folder.path().toLocal8Bit());
-    qputenv("XDG_CONFIG_HOME", m_folder.path().toLocal8Bit());
+void makeStore(const QTemporaryDir& folder, const Ledger& ledger) {
+    for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
+        qputenv(variable, folder.path().toLocal8Bit());
     UserDefaults::reopenStandard();
-    fill(loaded()->storePath(), ledger);
-    m_container = loaded();
-    m_plain = std::make_unique<PlainLoop>(m_container->storePath());
     UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
+    fill(loaded()->storePath(), ledger);
+}
+
+RunningApp::RunningApp() : m_container(loaded()) {
+    m_plain = std::make_unique<PlainLoop>(m_container->storePath());
     m_root = std::make_unique<RootView>(m_container->viewContext());
     m_engine = std::make_unique<QQmlApplicationEngine>();
     m_window = &KovamoApp::showWindow(*m_engine, *m_root);

@@ -12,10 +12,14 @@
 
 namespace kovamo {
 
-/// The app in its window, on a store of its own.
+/// A folder for data and preferences with a store in it; the preferences say that the user knows
+/// the app. From then on the process uses it.
+void makeStore(const QTemporaryDir& folder, const Ledger& ledger);
+
+/// The app in its window, on the store that was made last.
 class RunningApp {
   public:
-    explicit RunningApp(const Ledger& ledger);
+    RunningApp();
 
     [[nodiscard]] ContentView& content() { return *m_root->content(); }
     [[nodiscard]] ManagedObjectContext& context() { return m_container->viewContext(); }
@@ -36,7 +40,6 @@ class RunningApp {
     void settle();
 
   private:
-    QTemporaryDir m_folder;
     std::unique_ptr<PersistentContainer> m_container;
     std::unique_ptr<PlainLoop> m_plain;
     std::unique_ptr<RootView> m_root;

@@ -1,0 +1,112 @@
+// What whole processes of the app cost: the time from the start of the process to the first painted
+// main screen, and the memory at its peak. Prints the rows of the table as tab-separated fields.
+
+#include "RunningApp.h"
+
+#include <QGuiApplication>
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <vector>
+
+namespace {
+
+constexpr int rounds = 25;
+constexpr kovamo::Ledger lifetimeLedger{100'000, 8'700};
+constexpr kovamo::Ledger emptyLedger{};
+constexpr double memoryGoal = 24;
+
+/// What a process costs: milliseconds on the clock, and mebibytes of memory at its peak.
+struct Cost {
+    double milliseconds;
+    double mebibytes;
+};
+
+/// From the start of `program` to its end.
+Cost costOf(const char* program) {
+    std::array<char*, 2> arguments{const_cast<char*>(program), nullptr};
+    posix_spawn_file_actions_t quiet;
+    posix_spawn_file_actions_init(&quiet);
+    posix_spawn_file_actions_addopen(&quiet, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    const auto start = std::chrono::steady_clock::now();
+    pid_t process = 0;
+    int status = 1;
+    rusage usage{};
+    if (posix_spawn(&process, program, &quiet, nullptr, arguments.data(), environ) != 0 ||
+        wait4(process, &status, 0, &usage) != process || status != 0)
+        qFatal("%s fails", program);
+    posix_spawn_file_actions_destroy(&quiet);
+    const std::chrono::duration<double, std::milli> time =
+        std::chrono::steady_clock::now() - start;
+    return {time.count(), static_cast<double>(usage.ru_maxrss) / 1024};
+}
+
+double median(std::vector<double> values) {
+    std::ranges::nth_element(values, values.begin() + std::ssize(values) / 2);
+    return values[values.size() / 2];
+}
+
+/// A folder as `XDG_DATA_HOME` and what is started with it.
+struct Contestant {
+    const QTemporaryDir& folder;
+    const char* program;
+};
+
+/// The medians of several contestants' milliseconds to the first frame, run in turns.
+template<std::size_t n>
+std::array<double, n> startsOf(const std::array<Contestant, n>& contestants) {
+    qputenv("LD_PRELOAD", KOVAMO_FIRST_FRAME);
+    std::array<std::vector<double>, n> times;
+    for (int round = -1; round < rounds; ++round)
+        for (std::size_t i = 0; i < n; ++i) {
+            qputenv("XDG_DATA_HOME", contestants[i].folder.path().toLocal8Bit());
+            const double time = costOf(contestants[i].program).milliseconds;
+            // What the first round reads from the disk stays in memory.
+            if (round >= 0)
+                times[i].push_back(time);
+        }
+    qunsetenv("LD_PRELOAD");
+    std::array<double, n> medians{};
+    std::ranges::transform(times, medians.begin(), median);
+    return medians;
+}
+
+double peakOf(const QTemporaryDir& folder) {
+    qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
+    std::vector<double> peaks;
+    for (int round = 0; round < 5; ++round)
+        peaks.push_back(costOf(KOVAMO_OPEN_SCREENS).mebibytes);
+    return median(peaks);
+}
+
+void printRow(const char* what, double figure, const char* unit, const char* against,
+              double reference, double goal) {
+    std::printf("row\t%s\t%.1f %s\t%s\t%.1f %s\t%.2f\t%.2f\n", what, figure, unit, against,
+                reference, unit, figure / reference, goal);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    const QGuiApplication application(argc, argv);
+    const QTemporaryDir empty, lifetime;
+    kovamo::makeStore(lifetime, lifetimeLedger);
+    kovamo::makeStore(empty, emptyLedger);
+
+    const auto [window, start, startOfLifetime] =
+        startsOf(std::array{Contestant{empty, KOVAMO_EMPTY_WINDOW},
+                            Contestant{empty, KOVAMO_EXECUTABLE},
+                            Contestant{lifetime, KOVAMO_EXECUTABLE}});
+    printRow("start to the first painted main screen", start, "ms", "an empty window", window, 1.3);
+    printRow("the same with 100,000 records", startOfLifetime, "ms", "with none", start, 1.15);
+    const double more = peakOf(lifetime) - peakOf(empty);
+    printRow("more memory with 100,000 records than with none, both screens opened", more, "MiB",
+             "what it may be", memoryGoal, 1);
+}
