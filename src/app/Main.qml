@@ -66,7 +66,17 @@ Window {
     }
     // qmllint enable unqualified
     // What does not show at first is made after the first frame.
+    Connections {
+        id: firstFrame
+
+        function onFrameSwapped() {
+            firstFrame.enabled = false;
+        }
+
+        target: window
+    }
     Loader {
+        active: !firstFrame.enabled
         asynchronous: true
         sourceComponent: reviewPrompt
     }

@@ -130,7 +130,17 @@ FocusScope {
         onPicked: value => screen.content.select(value)
     }
     // What does not show at first is made after the first frame.
+    Connections {
+        id: firstFrame
+
+        function onFrameSwapped() {
+            firstFrame.enabled = false;
+        }
+
+        target: screen.Window.window
+    }
     Loader {
+        active: !firstFrame.enabled
         asynchronous: true
 
         sourceComponent: Sheet {
@@ -146,6 +156,7 @@ FocusScope {
         }
     }
     Loader {
+        active: !firstFrame.enabled
         asynchronous: true
 
         sourceComponent: Sheet {
