@@ -129,7 +129,7 @@ FocusScope {
 
         onPicked: value => screen.content.select(value)
     }
-    // What does not show at first is made after the first frame.
+    // What does not show at first is made after the first frame, or when it is wanted.
     Connections {
         id: firstFrame
 
@@ -140,8 +140,8 @@ FocusScope {
         target: screen.Window.window
     }
     Loader {
-        active: !firstFrame.enabled
-        asynchronous: true
+        active: screen.content.showAddTransaction || !firstFrame.enabled
+        asynchronous: !screen.content.showAddTransaction
 
         sourceComponent: Sheet {
             presented: screen.content.showAddTransaction
@@ -156,8 +156,8 @@ FocusScope {
         }
     }
     Loader {
-        active: !firstFrame.enabled
-        asynchronous: true
+        active: screen.content.showTransactions || !firstFrame.enabled
+        asynchronous: !screen.content.showTransactions
 
         sourceComponent: Sheet {
             presented: screen.content.showTransactions

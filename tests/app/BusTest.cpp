@@ -2,7 +2,6 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusMetaType>
 #include <QDBusReply>
 #include <QProcess>
 #include <QRect>
@@ -18,20 +17,6 @@ struct Element {
     QString service;
     QDBusObjectPath path;
 };
-
-QDBusArgument& operator<<(QDBusArgument& argument, const Element& element) {
-    argument.beginStructure();
-    argument << element.service << element.path;
-    argument.endStructure();
-    return argument;
-}
-
-const QDBusArgument& operator>>(const QDBusArgument& argument, Element& element) {
-    argument.beginStructure();
-    argument >> element.service >> element.path;
-    argument.endStructure();
-    return argument;
-}
 
 /// A program that says by its first line what it is reached by.
 class Server : public QProcess {
@@ -50,14 +35,6 @@ class Server : public QProcess {
     QString address;
 };
 
-} // namespace
-} // namespace kovamo
-
-Q_DECLARE_METATYPE(kovamo::Element)
-
-namespace kovamo {
-namespace {
-
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString action = QStringLiteral("org.a11y.atspi.Action");
 constexpr int focused = 12, showing = 25;
@@ -68,8 +45,6 @@ class Bus : public QObject, public testing::Test {
 
   protected:
     Bus() {
-        qDBusRegisterMetaType<Element>();
-        qDBusRegisterMetaType<QList<Element>>();
         const QDBusReply<QString> address =
             QDBusConnection::connectToBus(session.address, QStringLiteral("session"))
                 .call(QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus",
@@ -113,6 +88,16 @@ class Bus : public QObject, public testing::Test {
         const QDBusReply<QList<uint>> states = call(element, accessible, "GetState");
         return states.value().value(0) >> state & 1;
     }
+    QList<Element> children(const Element& element) const {
+        QList<Element> found;
+        const auto reply = call(element, accessible, "GetChildren").arguments();
+        const auto list = reply.value(0).value<QDBusArgument>();
+        for (list.beginArray(); !list.atEnd(); list.endStructure()) {
+            list.beginStructure();
+            list >> found.emplace_back().service >> found.back().path;
+        }
+        return found;
+    }
     QRect area(const Element& element) const {
         const QDBusMessage extents =
             call(element, "org.a11y.atspi.Component", "GetExtents", {uint(0)});
@@ -131,17 +116,16 @@ class Bus : public QObject, public testing::Test {
                                                "chart",       "heading"};
         QList<Element> found;
         QRect before;
-        const QDBusReply<QList<Element>> children = call(parent, accessible, "GetChildren");
-        for (const Element& child : children.value()) {
+        for (const Element& child : children(parent)) {
             if (!is(showing, child))
                 continue;
             found.append(child);
             if (complaints) {
-                const QString name = role(child) + u' ' + property(child, "Name");
-                if (interactive.contains(role(child)) && property(child, "Name").isEmpty())
-                    complaints->append(u"no name: " + name);
+                const QString kind = role(child), name = property(child, "Name");
                 const QRect place = area(child);
-                if (role(child) != u"dialog" && place.y() + place.height() < before.y())
+                if (interactive.contains(kind) && name.isEmpty())
+                    complaints->append(u"no name: " + kind);
+                if (kind != u"dialog" && place.y() + place.height() < before.y())
                     complaints->append(u"read too late: " + name);
                 before = place;
             }
@@ -157,19 +141,17 @@ class Bus : public QObject, public testing::Test {
     Element find(const char* name, const char* description = "") const {
         for (const Element& element : read(registry))
             if (property(element, "Name") == QString::fromUtf8(name) &&
-                (!*description || property(element, "Description") == QLatin1String(description)))
+                property(element, "Description").startsWith(QLatin1String(description)))
                 return element;
         return {};
     }
     Element await(const char* name, const char* description = "") const {
-        Element found;
-        EXPECT_TRUE(QTest::qWaitFor(
-            [&] { return !(found = find(name, description)).service.isEmpty(); }, 60000))
-            << name;
-        return found;
+        EXPECT_TRUE(soon([&] { return !find(name, description).service.isEmpty(); })) << name;
+        return find(name, description);
     }
+    static bool soon(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 60000); }
     bool awaitNo(const char* name) const {
-        return QTest::qWaitFor([&] { return find(name).service.isEmpty(); }, 60000);
+        return soon([=, this] { return find(name).service.isEmpty(); });
     }
     /// Does what the element offers by the name `what`, once it offers it.
     void act(const Element& element, const QString& what = QStringLiteral("Press")) const {
@@ -204,12 +186,12 @@ TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
     await("Salary, earning, $3,200, recurring");
     said.clear();
     act(tab);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !said.isEmpty(); }, 60000));
+    EXPECT_TRUE(soon([&] { return !said.isEmpty(); }));
     EXPECT_TRUE(said.value(0).startsWith(u"Your Kovamo is positive 👍. Balance $"));
 
     const Element button = await("Add Item", "Shows all transactions");
     act(button, QStringLiteral("SetFocus"));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return is(focused, button); }, 60000));
+    EXPECT_TRUE(soon([&] { return is(focused, button); }));
     act(button);
     const Element row = await("Rent, spending, $1,150, recurring");
     EXPECT_TRUE(read(row).isEmpty()) << "a row reads as one";
