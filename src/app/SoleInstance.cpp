@@ -6,6 +6,7 @@
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
+#include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -41,8 +42,10 @@ SoleInstance::SoleInstance(const QString& folder) : m_path(meetingPlace(folder))
             m_server.listen(m_path);
             return;
         }
-        m_handedOver = ask();
-        if (m_handedOver)
+        // Where nothing can be locked, everybody goes alone.
+        const bool isTaken = errno == EWOULDBLOCK;
+        m_handedOver = isTaken && ask();
+        if (m_handedOver || !isTaken)
             return;
     }
 }

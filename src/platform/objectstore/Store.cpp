@@ -322,7 +322,9 @@ bool Store::keepCopy(int pages) {
         return true;
     try {
         const auto isEmpty = [&] {
-            return m_database->execAndGet(utf8(u"SELECT count(*) = 0 FROM " + m_table)).getInt();
+            return m_database
+                ->execAndGet(utf8(u"SELECT NOT EXISTS (SELECT 1 FROM " + m_table + u')'))
+                .getInt();
         };
         if (!m_copy && !isEmpty())
             m_copy.emplace(*m_database, m_path);
