@@ -5,8 +5,8 @@
 namespace kovamo {
 
 /// A row of a list that can be opened and deleted. To a screen reader it is one thing, whatever it
-/// is made of, and offers both as its actions.
-class DeletableRow : public Focusable {
+/// is made of, and offers both as its actions. (The base is written in full for the QML tools.)
+class DeletableRow : public kovamo::Focusable {
     Q_OBJECT
     QML_ELEMENT
 

@@ -24,7 +24,6 @@ Focusable {
             control.picked(control.labels[next]);
     }
 
-    Accessible.description: labels.join(", ")
     Accessible.focusable: true
     Accessible.name: selected
     Accessible.role: Accessible.Grouping
