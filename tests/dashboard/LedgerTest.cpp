@@ -139,8 +139,9 @@ class RandomLedger {
 };
 
 TEST(Ledger, ShowsWhatThePlainestCountOfItGives) {
-    const char* const zones[] = {"Europe/Berlin",       "Asia/Kolkata", "America/Sao_Paulo",
-                                 "Australia/Lord_Howe", "Africa/Cairo", "UTC"};
+    // Zones of many kinds, whose rules have not changed of late.
+    const char* const zones[] = {"Europe/Berlin",       "Asia/Kolkata",     "America/Sao_Paulo",
+                                 "Australia/Lord_Howe", "America/New_York", "UTC"};
     const unsigned ledgers = qEnvironmentVariableIsSet("KOVAMO_ALL_ZONES") ? 10000 : 60;
     for (unsigned seed = 0; seed < ledgers; ++seed) {
         SCOPED_TRACE(testing::Message() << "ledger " << seed);
