@@ -23,6 +23,7 @@ build_packages=(
     libicu-dev
     libsqlite3-dev
     libsqlitecpp-dev
+    libxxhash-dev
     ninja-build
     qt6-base-dev
     qt6-declarative-dev
@@ -40,6 +41,8 @@ test_packages=(
 )
 
 lint_packages=(clang-format)
+
+bench_packages=(gnuplot-nox libbenchmark-dev)
 
 fuzz_packages=(clang libclang-rt-14-dev llvm)
 

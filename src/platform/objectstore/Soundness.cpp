@@ -1,11 +1,8 @@
 #include "Soundness.h"
 
 #include <QFileInfo>
-#include <array>
-#include <bit>
-#include <cstdint>
-#include <cstring>
-#include <vector>
+#include <memory>
+#include <xxhash.h>
 
 namespace kovamo {
 
@@ -17,32 +14,18 @@ QString sealPath(const QString& path) {
     return path + u"-seal";
 }
 
-/// A digest of a file's content in hexadecimal; empty when it cannot be read. Each step is a
-/// bijection of the digest so far and of the word that it takes in, so that no change of a single
-/// word goes unnoticed; four lanes keep the processor's multipliers busy.
+/// A digest of a file's content in hexadecimal; empty when it cannot be read.
 QByteArray digest(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return {};
-    constexpr std::uint64_t factor = 0x9e3779b97f4a7c15; // 2^64 divided by the golden ratio
-    const auto taken = [](std::uint64_t digest, std::uint64_t word) {
-        return std::rotl((digest ^ word) * factor, 29);
-    };
-    std::array<std::uint64_t, 4> lanes{1, 2, 3, 4};
-    std::array<std::uint64_t, 4> words{};
-    std::vector<char> bytes(chunk);
-    for (qint64 size = 0; (size = file.read(bytes.data(), chunk)) > 0;) {
-        std::memset(bytes.data() + size, 0, static_cast<std::size_t>(chunk - size));
-        for (qsizetype at = 0; at < size; at += sizeof words) {
-            std::memcpy(words.data(), bytes.data() + at, sizeof words);
-            for (std::size_t lane = 0; lane < lanes.size(); ++lane)
-                lanes[lane] = taken(lanes[lane], words[lane]);
-        }
-    }
-    std::uint64_t all = static_cast<std::uint64_t>(file.size());
-    for (const std::uint64_t lane : lanes)
-        all = taken(all, lane);
-    return QByteArray::number(static_cast<qulonglong>(all), 16);
+    const std::unique_ptr<XXH3_state_t, decltype(&XXH3_freeState)> state(XXH3_createState(),
+                                                                         &XXH3_freeState);
+    XXH3_64bits_reset(state.get());
+    QByteArray bytes(chunk, Qt::Uninitialized);
+    for (qint64 size = 0; (size = file.read(bytes.data(), chunk)) > 0;)
+        XXH3_64bits_update(state.get(), bytes.constData(), static_cast<std::size_t>(size));
+    return QByteArray::number(static_cast<qulonglong>(XXH3_64bits_digest(state.get())), 16);
 }
 
 } // namespace
