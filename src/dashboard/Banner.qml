@@ -39,6 +39,9 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             color: SystemColors.white
             font: TextStyles.headline
+            // White on the yellow of the card's top needs an edge.
+            style: Text.Raised
+            styleColor: SystemColors.dimming
             text: card.balance.infoText
             width: Math.min(implicitWidth, parent.width)
         }

@@ -13,7 +13,7 @@
 namespace kovamo {
 namespace {
 
-using Rows = std::vector<TransactionPresentation>;
+using Rows = QList<TransactionPresentation>;
 
 class RandomLedger {
   public:
@@ -121,7 +121,7 @@ class RandomLedger {
         std::ranges::stable_sort(rows, {}, &TransactionPresentation::startDate);
         const TransactionChart chart(context, timeFrame);
         ASSERT_EQ(chart.transactions, QList(rows.begin(), rows.end()));
-        rows.resize(std::max(rows.size(), std::size_t{15}));
+        rows.resize(std::max<qsizetype>(rows.size(), std::size_t{15}));
         for (qsizetype i = 0; i < std::ssize(rows); ++i) {
             const auto& row = rows[static_cast<std::size_t>(i)];
             const double height = i < chart.count() ? row.amount / largest : 0;

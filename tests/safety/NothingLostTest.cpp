@@ -85,8 +85,7 @@ bool showsWhatIsThere() {
     const TransactionsView list(context);
     Amounts listed;
     for (int row = 0; row < list.rowCount(); ++row) {
-        (void)list.data(list.index(row), TransactionsView::EmojiRole);
-        (void)list.data(list.index(row), TransactionsView::TitleRole);
+        (void)list.data(list.index(row), TransactionsView::LineRole);
         listed.push_back(static_cast<Transaction&>(list.object(row)).amount());
     }
     const auto fetched = [&](const Predicate& predicate) {
