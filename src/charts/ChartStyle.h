@@ -2,14 +2,18 @@
 
 #include "platform/views/ViewModifiers.h"
 
+#include <QVarLengthArray>
 #include <vector>
 
 namespace kovamo {
 
-/// What a chart hands to its style: one row for each position along the chart, the row's values
-/// being the stacked parts of that position.
+/// The stacked parts of one position along a chart: mostly a single one, which needs no memory of
+/// its own.
+using ChartRow = QVarLengthArray<double, 1>;
+
+/// What a chart hands to its style: one row for each position along the chart.
 struct ChartStyleConfiguration {
-    std::vector<std::vector<double>> dataMatrix;
+    std::vector<ChartRow> dataMatrix;
 };
 
 /// The sum of each row, in order; 0 for an empty row.

@@ -40,10 +40,10 @@ void DefaultStackedColumnView::paint(QPainter& painter, const QRectF& rect,
     for (const double part : data)
         whole += positivePart(part);
     double bottom = rect.bottom();
-    for (std::size_t i = 0; i < data.size() && whole > 0 && !colors.empty(); ++i) {
+    for (qsizetype i = 0; i < data.size() && whole > 0 && !colors.empty(); ++i) {
         const double height = rect.height() * (positivePart(data[i]) / whole);
         bottom -= height;
-        FilledShape{Rectangle{}, colors[i % colors.size()]}.paint(
+        FilledShape{Rectangle{}, colors[static_cast<std::size_t>(i) % colors.size()]}.paint(
             painter, {rect.x(), bottom, rect.width(), height}, environment);
     }
 }

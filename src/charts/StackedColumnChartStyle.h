@@ -8,7 +8,7 @@ namespace kovamo {
 /// One column's parts over each other, the first at the bottom, each as high as its share of the
 /// whole. The colours are repeated when they run out. Parts that are not positive take no room.
 struct DefaultStackedColumnView {
-    std::vector<double> data;
+    ChartRow data;
     std::vector<Color> colors;
 
     void paint(QPainter& painter, const QRectF& rect, const EnvironmentValues& environment) const;
@@ -18,7 +18,7 @@ struct DefaultStackedColumnView {
 /// view that `column` makes of the row, its corners rounded by `cornerRadius` points.
 struct StackedColumnChartStyle {
     double spacing = 0;
-    std::function<AnyView(const std::vector<double>&)> column;
+    std::function<AnyView(const ChartRow&)> column;
     double cornerRadius = 0;
 
     [[nodiscard]] AnyView makeBody(const ChartStyleConfiguration& configuration) const;

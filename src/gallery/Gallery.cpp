@@ -139,7 +139,7 @@ void Gallery::addStyles() {
     });
     add("StackedColumnChartStyle", {values, parts, spacing, radius},
         [](const Values& v) -> AnyView {
-            const auto column = [](const std::vector<double>& row) -> AnyView {
+            const auto column = [](const ChartRow& row) -> AnyView {
                 return DefaultStackedColumnView{row, palette};
             };
             return chartStyle(Chart(sampleRows(v[0], v[1])),

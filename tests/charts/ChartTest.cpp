@@ -32,7 +32,7 @@ static_assert(isAccepted<FloodStyle> && isAccepted<LineChartStyle> && ChartStyle
 static_assert(!isAccepted<int> && !isAccepted<MakesNoView> && !isAccepted<AnyView>);
 static_assert(!std::constructible_from<Chart, std::vector<int>>, "only floating-point values");
 
-using Matrix = std::vector<std::vector<double>>;
+using Matrix = std::vector<ChartRow>;
 
 TEST(ChartData, IsTakenAsItIs) {
     EXPECT_EQ(Chart(std::list{0.1f, -7.f}).configuration.dataMatrix,

@@ -259,8 +259,12 @@ std::vector<ObjectID> Store::select(const FetchRequest& request) const {
     return guarded(m_path, [&] {
         SQLite::Statement statement = prepared(QStringLiteral("pk"), request);
         std::vector<ObjectID> ids;
-        while (statement.executeStep())
-            ids.push_back(statement.getColumn(0).getInt64());
+        if (statement.executeStep()) {
+            const SQLite::Column id = statement.getColumn(0); // of whatever row is the current one
+            do
+                ids.push_back(id.getInt64());
+            while (statement.executeStep());
+        }
         // Sorting here costs less than making SQLite sort what it walks by another index.
         if (request.sortDescriptors.empty())
             radixSort(ids, sortKey<ObjectID>);
