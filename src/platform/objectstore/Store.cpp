@@ -3,10 +3,10 @@
 #include "ManagedObjectContext.h"
 #include "Soundness.h"
 #include "StoreError.h"
+#include "StoredValue.h"
 #include "platform/foundation/RadixSort.h"
 
 #include <QFileInfo>
-#include <QStringDecoder>
 #include <SQLiteCpp/Transaction.h>
 #include <algorithm>
 #include <cerrno>
@@ -63,58 +63,6 @@ void makeFile(const QString& path) {
     ::close(file);
 }
 
-void bind(SQLite::Statement& statement, int index, const Value& value) {
-    std::visit(
-        [&]<typename T>(const T& v) {
-            if constexpr (std::is_same_v<T, std::monostate>)
-                statement.bind(index);
-            else if constexpr (std::is_same_v<T, bool>)
-                statement.bind(index, v ? 1 : 0);
-            else if constexpr (std::is_same_v<T, std::int32_t>)
-                statement.bind(index, v);
-            else if constexpr (std::is_same_v<T, QString>)
-                statement.bind(index, utf8(v));
-            else if constexpr (std::is_same_v<T, Instant>)
-                statement.bind(index, static_cast<std::int64_t>(v.time_since_epoch().count()));
-            else
-                statement.bind(index, utf8(v.toString(QUuid::WithoutBraces)));
-        },
-        value);
-}
-
-/// The text as it was written: a mark of the byte order at its start is a part of it.
-QString textOf(const SQLite::Column& column) {
-    QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::ConvertInitialBom);
-    return decoder(QByteArrayView(column.getText(), column.getBytes()));
-}
-
-/// Nothing for a value that the attribute cannot have, which a table made by others may hold.
-std::optional<Value> valueOf(const SQLite::Column& column, const AttributeDescription& attribute) {
-    if (column.isNull())
-        return attribute.isOptional ? std::optional<Value>(Value()) : std::nullopt;
-    const bool isText =
-        attribute.type == AttributeType::string || attribute.type == AttributeType::uuid;
-    if (isText ? !column.isText() : !column.isInteger())
-        return std::nullopt;
-    switch (attribute.type) {
-    case AttributeType::integer32:
-        if (!std::in_range<std::int32_t>(column.getInt64()))
-            return std::nullopt;
-        return column.getInt();
-    case AttributeType::boolean:
-        return column.getInt64() != 0;
-    case AttributeType::string:
-        return textOf(column);
-    case AttributeType::date:
-        return Instant(std::chrono::milliseconds(column.getInt64()));
-    case AttributeType::uuid: {
-        const auto id = QUuid::fromString(textOf(column));
-        return id.isNull() ? Value() : Value(id);
-    }
-    }
-    Q_UNREACHABLE();
-}
-
 /// Runs a statement with the record's values and its identity; returns how many rows it changed.
 int put(SQLite::Statement& statement, const ManagedObject& object) {
     int index = 0;
@@ -158,12 +106,14 @@ Store::Store(const QString& path, const EntityDescription& entity)
     : m_path(path), m_entity(entity), m_table(quoted(entity.name)) {
     for (const AttributeDescription& attribute : entity.attributes)
         m_columns.append(quoted(attribute.name));
+    m_rowSelection = u"SELECT " + m_columns.join(u',') + u" FROM " + m_table + u" WHERE pk = ?";
     if (isEmptied(path))
         fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path);
     makeFile(path);
     guarded(path, [&] {
         m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
                            busyTimeoutMilliseconds);
+        m_statements.emplace(*m_database);
         sqlite3* handle = m_database->getHandle();
         // A misspelt column must be an error, never a text constant.
         sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
@@ -173,11 +123,9 @@ Store::Store(const QString& path, const EntityDescription& entity)
         refuseDamaged();
         createSchema();
         // Fails where the table lacks a column, and so before anything is written.
-        m_readRow.emplace(*m_database, utf8(u"SELECT " + m_columns.join(u',') + u" FROM " +
-                                            m_table + u" WHERE pk = ?"));
+        (void)m_statements->use(m_rowSelection);
         m_database->exec("PRAGMA synchronous = FULL");
         sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
-        m_dataVersion.emplace(*m_database, "PRAGMA data_version");
         (void)changedElsewhere();
     });
 }
@@ -186,8 +134,7 @@ Store::~Store() {
     try {
         const bool isSound = m_wasWritten && faultOf(*m_database).isEmpty();
         m_copy.reset();
-        m_readRow.reset();
-        m_dataVersion.reset();
+        m_statements.reset();
         m_database.reset();
         if (isSound)
             seal(m_path);
@@ -197,7 +144,7 @@ Store::~Store() {
 }
 
 void Store::refuseNewer() const {
-    const int version = m_database->execAndGet("PRAGMA user_version").getInt();
+    const auto version = static_cast<int>(integer(QStringLiteral("PRAGMA user_version")));
     if (version > schemaVersion)
         fail(QStringLiteral("The store was written by a newer version of the app"), version,
              m_path);
@@ -213,14 +160,14 @@ void Store::refuseDamaged() const {
 
 void Store::createSchema() {
     const auto isMade = [&] {
-        return m_database->execAndGet("PRAGMA user_version").getInt() == schemaVersion;
+        return integer(QStringLiteral("PRAGMA user_version")) == schemaVersion;
     };
     if (isMade())
         return;
     SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
     if (isMade()) // by another process, in this moment
         return;
-    if (m_database->execAndGet("SELECT count(*) FROM sqlite_schema").getInt() != 0)
+    if (integer(QStringLiteral("SELECT count(*) FROM sqlite_schema")) != 0)
         fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, m_path);
     QStringList definitions{QStringLiteral("pk INTEGER PRIMARY KEY")};
     for (const AttributeDescription& attribute : m_entity.attributes)
@@ -238,7 +185,7 @@ void Store::createSchema() {
     transaction.commit();
 }
 
-SQLite::Statement Store::prepared(const QString& selection, const FetchRequest& request) const {
+StatementCache::Use Store::prepared(const QString& selection, const FetchRequest& request) const {
     QString sql = u"SELECT " + selection + u" FROM " + m_table;
     if (const QString condition = request.predicate.sql(m_entity); !condition.isEmpty())
         sql += u" WHERE " + condition;
@@ -248,22 +195,28 @@ SQLite::Statement Store::prepared(const QString& selection, const FetchRequest& 
         sql += u" ORDER BY " + sortKeys(request.sortDescriptors) + u",pk";
     if (request.fetchLimit)
         sql += u" LIMIT " + QString::number(*request.fetchLimit);
-    SQLite::Statement statement(*m_database, utf8(sql));
+    StatementCache::Use statement = m_statements->use(sql);
     int index = 0;
     for (const Value& argument : request.predicate.arguments())
-        bind(statement, ++index, argument);
+        bind(*statement, ++index, argument);
     return statement;
+}
+
+std::int64_t Store::integer(const QString& query) const {
+    const auto statement = m_statements->use(query);
+    statement->executeStep();
+    return statement->getColumn(0).getInt64();
 }
 
 std::vector<ObjectID> Store::select(const FetchRequest& request) const {
     return guarded(m_path, [&] {
-        SQLite::Statement statement = prepared(QStringLiteral("pk"), request);
+        const auto statement = prepared(QStringLiteral("pk"), request);
         std::vector<ObjectID> ids;
-        if (statement.executeStep()) {
-            const SQLite::Column id = statement.getColumn(0); // of whatever row is the current one
+        if (statement->executeStep()) {
+            const SQLite::Column id = statement->getColumn(0); // of whatever row is the current one
             do
                 ids.push_back(id.getInt64());
-            while (statement.executeStep());
+            while (statement->executeStep());
         }
         // Sorting here costs less than making SQLite sort what it walks by another index.
         if (request.sortDescriptors.empty())
@@ -276,22 +229,22 @@ std::size_t Store::count(const FetchRequest& request) const {
     if (request.fetchLimit)
         return select(request).size();
     return guarded(m_path, [&] {
-        SQLite::Statement statement = prepared(QStringLiteral("count(*)"), request);
-        statement.executeStep();
-        return static_cast<std::size_t>(statement.getColumn(0).getInt64());
+        const auto statement = prepared(QStringLiteral("count(*)"), request);
+        statement->executeStep();
+        return static_cast<std::size_t>(statement->getColumn(0).getInt64());
     });
 }
 
 std::vector<Value> Store::read(ObjectID id) {
     return guarded(m_path, [&] {
-        m_readRow->reset();
-        m_readRow->bind(1, id);
+        const auto row = m_statements->use(m_rowSelection);
+        row->bind(1, id);
         std::vector<Value> values;
-        if (m_readRow->executeStep()) {
+        if (row->executeStep()) {
             values.reserve(m_entity.attributes.size());
             int index = 0;
             for (const AttributeDescription& attribute : m_entity.attributes) {
-                auto value = valueOf(m_readRow->getColumn(index++), attribute);
+                auto value = valueOf(row->getColumn(index++), attribute);
                 if (!value)
                     fail(QStringLiteral("The record %1 has a wrong %2").arg(id).arg(attribute.name),
                          SQLITE_MISMATCH, m_path);
@@ -300,7 +253,6 @@ std::vector<Value> Store::read(ObjectID id) {
                 values.push_back(*std::move(value));
             }
         }
-        m_readRow->reset();
         return values;
     });
 }
@@ -314,10 +266,8 @@ QString Store::shared(const QString& text) {
 }
 
 ObjectID Store::unusedID() const {
-    return guarded(m_path, [&] {
-        return m_database->execAndGet(utf8(u"SELECT coalesce(max(pk), 0) + 1 FROM " + m_table))
-            .getInt64();
-    });
+    return guarded(m_path,
+                   [&] { return integer(u"SELECT coalesce(max(pk), 0) + 1 FROM " + m_table); });
 }
 
 bool Store::keepCopy(int pages) {
@@ -325,12 +275,7 @@ bool Store::keepCopy(int pages) {
     if (m_dayOfCopy == today)
         return true;
     try {
-        const auto isEmpty = [&] {
-            return m_database
-                ->execAndGet(utf8(u"SELECT NOT EXISTS (SELECT 1 FROM " + m_table + u')'))
-                .getInt();
-        };
-        if (!m_copy && !isEmpty())
+        if (!m_copy && integer(u"SELECT EXISTS (SELECT 1 FROM " + m_table + u')'))
             m_copy.emplace(*m_database, m_path);
         if (m_copy && !m_copy->step(pages))
             return false;
@@ -356,21 +301,21 @@ bool Store::write(const ObjectChanges& changes) {
         u"UPDATE " + m_table + u" SET " + m_columns.join(QStringLiteral("=?,")) + u"=? WHERE pk=?";
     prepareToWrite();
     return guarded(m_path, [&] {
-        SQLite::Statement inserting(*m_database, utf8(insertion));
-        SQLite::Statement updating(*m_database, utf8(update));
-        SQLite::Statement deleting(*m_database, utf8(u"DELETE FROM " + m_table + u" WHERE pk=?"));
+        const auto inserting = m_statements->use(insertion);
+        const auto updating = m_statements->use(update);
+        const auto deleting = m_statements->use(u"DELETE FROM " + m_table + u" WHERE pk=?");
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
         if (!changes.inserted.empty() && changes.inserted.front()->objectID() < unusedID())
             return false;
         for (const ManagedObject* object : changes.inserted)
-            put(inserting, *object);
+            put(*inserting, *object);
         for (const ManagedObject* object : changes.updated)
-            if (put(updating, *object) == 0)
-                put(inserting, *object); // another writer deleted it: an edit is never lost
+            if (put(*updating, *object) == 0)
+                put(*inserting, *object); // another writer deleted it: an edit is never lost
         for (const ManagedObject* object : changes.deleted) {
-            deleting.bind(1, object->objectID());
-            deleting.exec();
-            deleting.reset();
+            deleting->bind(1, object->objectID());
+            deleting->exec();
+            deleting->reset();
         }
         transaction.commit();
         return true;
@@ -379,10 +324,7 @@ bool Store::write(const ObjectChanges& changes) {
 
 bool Store::changedElsewhere() {
     return guarded(m_path, [&] {
-        m_dataVersion->reset();
-        m_dataVersion->executeStep();
-        const int version = m_dataVersion->getColumn(0).getInt();
-        m_dataVersion->reset();
+        const int version = static_cast<int>(integer(QStringLiteral("PRAGMA data_version")));
         return std::exchange(m_lastDataVersion, version) != version;
     });
 }

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "FetchRequest.h"
+#include "StatementCache.h"
 #include "StoreCopy.h"
 #include "platform/foundation/Calendar.h"
 
 #include <QSet>
 #include <QStringList>
 #include <SQLiteCpp/Database.h>
-#include <SQLiteCpp/Statement.h>
 #include <optional>
 
 namespace kovamo {
@@ -56,18 +56,18 @@ class Store {
     void refuseDamaged() const;
     void createSchema();
     void prepareToWrite();
-    [[nodiscard]] SQLite::Statement prepared(const QString& selection,
-                                             const FetchRequest& request) const;
-
+    [[nodiscard]] StatementCache::Use prepared(const QString& selection,
+                                               const FetchRequest& request) const;
+    [[nodiscard]] std::int64_t integer(const QString& query) const;
     [[nodiscard]] QString shared(const QString& text);
 
     QString m_path;
     const EntityDescription& m_entity;
     QString m_table;
     QStringList m_columns;
+    QString m_rowSelection;
     mutable std::optional<SQLite::Database> m_database;
-    std::optional<SQLite::Statement> m_readRow;
-    std::optional<SQLite::Statement> m_dataVersion;
+    mutable std::optional<StatementCache> m_statements;
     std::optional<StoreCopy> m_copy;
     std::optional<CalendarDay> m_dayOfCopy;
     bool m_wasWritten = false;
