@@ -105,7 +105,7 @@ TEST(StackedAreas, StandOnEachOtherFromTheBottomAndRepeatTheirColors) {
 
 TEST(StackedColumns, StandOnEachOtherFromTheBottomAndRepeatTheirColors) {
     const std::vector<std::vector<double>> rows{{0.2, 0.3, -5, 0.3}, {0.4, std::nan("")}};
-    const auto column = [](const std::vector<double>& row) {
+    const auto column = [](const ChartRow& row) {
         return AnyView(DefaultStackedColumnView{row, {red, blue}});
     };
     const QImage sharp = drawn(Chart(rows), StackedColumnChartStyle{10, column, 0});
