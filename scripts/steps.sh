@@ -6,6 +6,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # What the app needs to run: the QML modules that its screens import, the plugins that open a
 # window on Wayland and read SVG pictures, and fonts for every script and for emoji.
 run_packages=(
+    fonts-noto-cjk
     fonts-noto-color-emoji
     fonts-noto-core
     libqt6svg6

@@ -37,13 +37,14 @@ void chooseRenderer() {
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
 }
 
-/// Puts the colour emoji font right behind the system's own, before fonts that draw the same
-/// characters in black.
+/// Puts the colour emoji font right behind those for text, before fonts that draw the same
+/// characters in black. A language's own font may lack the digits, which the emoji font has too: a
+/// font for Latin goes between.
 void preferColourEmoji() {
-    const QString colourEmoji = QStringLiteral("Noto Color Emoji");
     QFont font = QGuiApplication::font();
+    const QStringList families{QFontInfo(font).family(), QStringLiteral("Noto Sans"),
+                               QStringLiteral("Noto Color Emoji")};
     // Text fields have a font of their own and are not asked for its families.
-    const QStringList families{QFontInfo(font).family(), colourEmoji};
     QFont::insertSubstitutions(font.family(), families);
     font.setFamilies(families);
     QGuiApplication::setFont(font);
