@@ -12,6 +12,8 @@ Window {
     required property RootState root
     /*! Whether things change at once instead of moving. */
     property bool reducedMotion: false
+    /*! How much larger than usual all text is. */
+    property real textScale: 1
 
     LayoutMirroring.childrenInherit: true
     LayoutMirroring.enabled: root.mirrored
@@ -27,6 +29,11 @@ Window {
         property: "reduced"
         target: Motion
         value: window.reducedMotion
+    }
+    Binding {
+        property: "scale"
+        target: TextStyles
+        value: window.textScale
     }
     // A sheet or menu that is on its way keeps the window's shortcuts to itself.
     Shortcut {

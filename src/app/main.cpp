@@ -131,5 +131,9 @@ int main(int argc, char** argv) {
                          [&] { raise(window); });
     const auto followMotion = [&] { window.setProperty("reducedMotion", desktop.reducedMotion()); };
     QObject::connect(&desktop, &DesktopSettings::reducedMotionChanged, &window, followMotion);
+    // On X the size of text is in the screen's resolution, which the toolkit scales everything by.
+    const auto followText = [&] { window.setProperty("textScale", desktop.textScale()); };
+    if (QGuiApplication::platformName().startsWith(u"wayland"))
+        QObject::connect(&desktop, &DesktopSettings::textScaleChanged, &window, followText);
     return QGuiApplication::exec();
 }

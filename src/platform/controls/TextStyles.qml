@@ -6,6 +6,9 @@ import QtQuick
 QtObject {
     id: styles
 
+    /*! How much larger than usual the user wants all text. */
+    property real scale: 1
+
     readonly property font largeTitle: styles.style(34, Font.Normal)
     readonly property font title: styles.style(22, Font.Normal)
     readonly property font headline: styles.style(17, Font.DemiBold)
@@ -15,13 +18,13 @@ QtObject {
     /*! For emoji alone: some locales' own fonts have a few of them in black. */
     readonly property font emoji: Qt.font({
             "family": "Noto Color Emoji",
-            "pointSize": 21
+            "pointSize": 21 * styles.scale
         })
 
     /*! The system's font at `points` layout points. */
     function style(points: real, weight: int): font {
         return Qt.font({
-                "pointSize": points * 0.75,
+                "pointSize": points * 0.75 * styles.scale,
                 "weight": weight
             });
     }

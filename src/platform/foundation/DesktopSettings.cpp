@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <algorithm>
 
 namespace kovamo {
 
@@ -16,9 +17,13 @@ const QString appearance = QStringLiteral("org.freedesktop.appearance");
 const QString colorScheme = QStringLiteral("color-scheme");
 const QString desktop = QStringLiteral("org.gnome.desktop.interface");
 const QString animations = QStringLiteral("enable-animations");
+const QString textScaling = QStringLiteral("text-scaling-factor");
 
 /// The portal's value of `color-scheme` for an appearance that prefers dark.
 constexpr uint preferDark = 1;
+
+/// The range that the screens are made for.
+constexpr double smallestText = 0.5, largestText = 3;
 
 /// The portal's older reading call wraps its value twice.
 QVariant unwrapped(QVariant value) {
@@ -37,6 +42,7 @@ DesktopSettings::DesktopSettings(bool followsAppearance) : m_followsAppearance(f
                 SLOT(take(QString, QString, QDBusVariant)));
     ask(appearance, colorScheme);
     ask(desktop, animations);
+    ask(desktop, textScaling);
 }
 
 void DesktopSettings::ask(const QString& group, const QString& key) {
@@ -61,6 +67,10 @@ void DesktopSettings::take(const QString& group, const QString& key, const QDBus
     if (group == desktop && key == animations && m_reducedMotion == setting.toBool()) {
         m_reducedMotion = !setting.toBool();
         Q_EMIT reducedMotionChanged();
+    }
+    if (group == desktop && key == textScaling) {
+        m_textScale = std::clamp(setting.toDouble(), smallestText, largestText);
+        Q_EMIT textScaleChanged();
     }
 }
 

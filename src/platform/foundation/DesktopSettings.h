@@ -14,6 +14,8 @@ class DesktopSettings : public QObject {
     Q_OBJECT
     /// Whether things are to change at once instead of moving.
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
+    /// How much larger than usual text is to be: 2 is twice as large.
+    Q_PROPERTY(double textScale READ textScale NOTIFY textScaleChanged)
 
   public:
     /// Puts the desktop's appearance into the palette, unless `followsAppearance` is false. Asks
@@ -21,9 +23,11 @@ class DesktopSettings : public QObject {
     explicit DesktopSettings(bool followsAppearance);
 
     [[nodiscard]] bool reducedMotion() const { return m_reducedMotion; }
+    [[nodiscard]] double textScale() const { return m_textScale; }
 
   Q_SIGNALS:
     void reducedMotionChanged();
+    void textScaleChanged();
 
   private Q_SLOTS:
     void take(const QString& group, const QString& key, const QDBusVariant& value);
@@ -33,6 +37,7 @@ class DesktopSettings : public QObject {
 
     bool m_followsAppearance;
     bool m_reducedMotion = false;
+    double m_textScale = 1;
 };
 
 } // namespace kovamo
