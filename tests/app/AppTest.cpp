@@ -74,12 +74,11 @@ void skipOnboarding() {
 
 class App : public testing::Test {
   protected:
-    World world{"2024-05-15 10:00"};
     FastQueue queue;
 };
 
 TEST_F(App, LeadsFromAFreshStartToTheFirstTransaction) {
-    Book book({});
+    Book book;
     {
         Visit visit(book);
         EXPECT_TRUE(visit.lacks("Add Item"));
@@ -136,7 +135,7 @@ TEST_F(App, OffersToCreateWhenTheFrameIsEmpty) {
 TEST_F(App, EditsARecordFromTheListOfAll) {
     skipOnboarding();
     Book book({{300}, {500, "1999-01-01", nullptr, "1999-01-01", false}});
-    Transaction& record = *book.context.fetch<Transaction>(Transaction::fetchRequest()).at(0);
+    Transaction& record = *book.all().at(0);
     const auto id = record.id();
     Visit visit(book);
     visit.click("Add Item", "Shows all transactions");
@@ -145,7 +144,7 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
     visit.click("title, earning, $300");
     EXPECT_TRUE(visit.shows("Edit Transaction"));
     visit.write("Title", "!");
-    world.setTime("2024-05-16 10:00");
+    World::setTime("2024-05-16 10:00");
     visit.press(Qt::Key_S, Qt::ControlModifier);
     EXPECT_TRUE(visit.shows("Transactions")) << "back in the list";
     EXPECT_EQ(record.title(), QStringLiteral("title!"));
@@ -170,7 +169,7 @@ TEST_F(App, SeesADeletionUnderTheSheet) {
     visit.press(Qt::Key_Delete);
     visit.press(Qt::Key_Escape);
     EXPECT_TRUE(visit.has("🙄 create a transaction"));
-    EXPECT_TRUE(Book({}).context.fetch<Transaction>(Transaction::fetchRequest()).empty());
+    EXPECT_TRUE(Book().all().empty());
 }
 
 TEST_F(App, AsksForStarsAtTheFourthStart) {

@@ -165,7 +165,6 @@ class Bus : public QObject, public testing::Test {
 
     const Element registry{"org.a11y.atspi.Registry",
                            QDBusObjectPath("/org/a11y/atspi/accessible/root")};
-    World world{"2024-05-15 10:00"};
     Server session{"dbus-daemon", {"--session", "--print-address", "--nofork"}};
     Server display{"Xvfb", {"-displayfd", "1", "-screen", "0", "400x900x24"}};
     QDBusConnection bus{QString()};

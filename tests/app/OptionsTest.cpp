@@ -25,7 +25,6 @@ struct Ended {
 };
 
 TEST(Options, UnknownOnesPrintTheUsage) {
-    const World world("2024-05-15 10:00");
     for (const char* wrong :
          {"--frob", "demo", "--appearance", "--appearance=dark", "--pictures"}) {
         const Ended run({QString::fromUtf8(wrong)});
@@ -37,8 +36,7 @@ TEST(Options, UnknownOnesPrintTheUsage) {
 }
 
 TEST(Options, PicturesShowEveryScreenAndTouchNothingOfTheUsers) {
-    const World world("2024-05-15 10:00");
-    const QDir pictures(world.folder() + u"/pictures");
+    const QDir pictures(World::folder() + u"/pictures");
     const Ended run({QStringLiteral("--pictures"), pictures.path()});
     EXPECT_EQ(run.exitCode, 0);
     EXPECT_FALSE(run.errors.contains(".qml")) << run.errors.toStdString();
@@ -60,8 +58,7 @@ TEST(Options, PicturesShowEveryScreenAndTouchNothingOfTheUsers) {
 }
 
 TEST(SecondStart, LeavesTheFirstAloneAndComesBackWhenThatIsKilled) {
-    const World world("2024-05-15 10:00");
-    qputenv("XDG_RUNTIME_DIR", world.folder().toUtf8());
+    qputenv("XDG_RUNTIME_DIR", World::folder().toUtf8());
     for (int round = 0; round < 2; ++round) {
         QProcess starts[2];
         for (QProcess& start : starts)

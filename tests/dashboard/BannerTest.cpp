@@ -7,7 +7,6 @@ namespace kovamo {
 namespace {
 
 TEST(Banner, PutsTheCurrencyWhereTheLocaleDoes) {
-    const World world("2024-05-15 10:00");
     const struct {
         const char* locale;
         const char* leading;

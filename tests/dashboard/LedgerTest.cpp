@@ -18,7 +18,7 @@ using Rows = QList<TransactionPresentation>;
 class RandomLedger {
   public:
     RandomLedger(unsigned seed, const char* zone)
-        : m_random(seed), m_world("2024-05-15", zone), m_wall(zone), m_book({}) {
+        : m_random(seed), m_world("2024-05-15", zone), m_wall(zone) {
         m_now = WallClock::at({pick(1975, 2035), pick(1, 12)}, pick(0, 27 * 24)) +
                 std::chrono::milliseconds(pick(0, 999));
         Clock::setSource([this] { return m_now; });
@@ -26,7 +26,7 @@ class RandomLedger {
 
     void change() {
         auto& context = m_book.context;
-        for (Transaction* record : context.fetch<Transaction>(Transaction::fetchRequest()))
+        for (Transaction* record : m_book.all())
             if (const int fate = pick(0, 5); fate == 0)
                 context.deleteObject(*record);
             else if (fate == 1)
@@ -35,9 +35,7 @@ class RandomLedger {
             fill(context.insert<Transaction>());
         compare(context);
         context.save();
-        PersistentContainer again(QStringLiteral("Kovamo"), Transaction::entity());
-        again.loadPersistentStores([](const StoreError* error) { ASSERT_EQ(error, nullptr); });
-        compare(again.viewContext());
+        compare(Book().context);
     }
 
   private:
@@ -86,7 +84,7 @@ class RandomLedger {
     }
 
     void compare(ManagedObjectContext& context) const {
-        auto records = context.fetch<Transaction>(Transaction::fetchRequest());
+        auto records = context.fetch<Transaction>(transactions());
         for (const TimeFrame timeFrame : {0, 1, 2, 3})
             compare(gathered(records, timeFrame), timeFrame, context);
         const TransactionsView screen(context);
@@ -110,9 +108,8 @@ class RandomLedger {
         EXPECT_EQ(banner.isShown(), !rows.empty());
         EXPECT_EQ(banner.kovamo, std::abs(sum));
         EXPECT_EQ(banner.kovamoText, QLatin1String(sum > 0 ? "+ " : sum < 0 ? "- " : "   0"));
-        EXPECT_TRUE(banner.infoText.contains(QLatin1String(sum > 0   ? " positive "
-                                                           : sum < 0 ? " negative "
-                                                                     : " neutral ")));
+        const char* mood = sum > 0 ? " positive " : sum < 0 ? " negative " : " neutral ";
+        EXPECT_TRUE(banner.infoText.contains(QLatin1String(mood)));
         EXPECT_EQ(banner.currentGradient, sum > 0   ? banner.greenGardient
                                           : sum < 0 ? banner.redGradient
                                                     : banner.blueGradient);
@@ -120,10 +117,10 @@ class RandomLedger {
         const double largest = listed.empty() ? 0 : listed.front().amount;
         std::ranges::stable_sort(rows, {}, &TransactionPresentation::startDate);
         const TransactionChart chart(context, timeFrame);
-        ASSERT_EQ(chart.transactions, QList(rows.begin(), rows.end()));
-        rows.resize(std::max<qsizetype>(rows.size(), std::size_t{15}));
-        for (qsizetype i = 0; i < std::ssize(rows); ++i) {
-            const auto& row = rows[static_cast<std::size_t>(i)];
+        ASSERT_EQ(chart.transactions, rows);
+        rows.resize(std::max(rows.size(), qsizetype{15}));
+        for (qsizetype i = 0; i < rows.size(); ++i) {
+            const auto& row = rows[i];
             const double height = i < chart.count() ? row.amount / largest : 0;
             const double up = chart.positiveChartData.at(i), down = chart.negativeChartData.at(i);
             EXPECT_EQ(row.isPositive ? down : up, 0);

@@ -13,7 +13,7 @@ Line spending(std::int32_t amount, const char* day) {
 }
 
 TEST(TransactionChart, SaysItsFrameAndRange) {
-    World world("2024-03-10 10:00");
+    World::setTime("2024-03-10 10:00");
     Book book({{1200, "2024-03-11"}, spending(7, "2024-03-12")});
     EXPECT_EQ(TransactionChart(book.context, 1).range(), u"**03/01 - 03/31**");
     EXPECT_EQ(TransactionChart(book.context, 2).title(), u"3 Months");
@@ -31,7 +31,6 @@ TEST(TransactionChart, SaysItsFrameAndRange) {
 }
 
 TEST(TransactionChart, PaintsAColumnWhereItFindsOne) {
-    const World world("2024-05-15 10:00");
     Book book({{100, "2024-05-01"}, spending(50, "2024-05-02")});
     const TransactionChart chart(book.context, 1);
     constexpr int width = 390;

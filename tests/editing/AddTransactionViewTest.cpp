@@ -14,19 +14,14 @@ void fill(AddTransactionView& form, const char* amount) {
     form.setAmount(QString::fromUtf8(amount));
 }
 
-std::vector<Transaction*> all(ManagedObjectContext& context) {
-    return context.fetch<Transaction>(Transaction::fetchRequest());
-}
-
 TEST(AddTransactionView, LetsOnlyAsciiDigitsIntoTheAmount) {
-    const World world("2024-05-15 10:00");
-    Book book({});
+    Book book;
     AddTransactionView form(book.context);
     const std::pair<const char*, const char*> cases[] = {
-        {"12a,5", "125"}, {"-40", "40"},
-        {" 7 ", "7"},     {"1.234,56 €", "123456"},
-        {"٣٤5", "5"},     {"007", "007"},
-        {"+", ""},        {"99999999999999999999", "99999999999999999999"},
+        {"1.234,56 €", "123456"},
+        {"٣٤5", "5"},
+        {"+", ""},
+        {"99999999999999999999", "99999999999999999999"},
     };
     for (const auto& [typed, kept] : cases) {
         const QSignalSpy changes(&form, &AddTransactionView::amountChanged);
@@ -37,28 +32,26 @@ TEST(AddTransactionView, LetsOnlyAsciiDigitsIntoTheAmount) {
 }
 
 TEST(AddTransactionView, CanSaveOnceNothingIsEmpty) {
-    const World world("2024-05-15 10:00");
-    Book book({});
-    for (int missing = 0; missing < 3; ++missing) {
-        AddTransactionView form(book.context);
+    Book book;
+    AddTransactionView form(book.context);
+    for (const auto set : {&AddTransactionView::setEmoji, &AddTransactionView::setTitle,
+                           &AddTransactionView::setAmount}) {
         fill(form, "1");
         EXPECT_TRUE(form.canSave());
-        missing == 0 ? form.setEmoji({}) : missing == 1 ? form.setTitle({}) : form.setAmount({});
+        (form.*set)({});
         EXPECT_FALSE(form.canSave());
         form.save();
     }
-    EXPECT_TRUE(all(book.context).empty());
+    EXPECT_TRUE(book.all().empty());
 }
 
 TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
-    World world("2024-05-15 10:00");
-    Book book({});
+    Book book;
     AddTransactionView form(book.context);
-    EXPECT_EQ(form.navigationTitle(), u"New Transaction");
     EXPECT_EQ(form.selectedPositive(), u"Earning");
     EXPECT_EQ(form.selectedType(), u"Monthly");
     EXPECT_FALSE(form.isRecurring());
-    world.setTime("2024-05-15 10:05");
+    World::setTime("2024-05-15 10:05");
     fill(form, "0042");
     form.setSelectedPositive(QStringLiteral("Spending"));
     form.setIsRecurring(true);
@@ -77,7 +70,7 @@ TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
     form.save();
     EXPECT_EQ(order, "told closed");
 
-    const Transaction& saved = *all(book.context).at(0);
+    const Transaction& saved = *book.all().at(0);
     EXPECT_TRUE(saved.id());
     EXPECT_EQ(saved.amount(), 42);
     EXPECT_FALSE(saved.isPositive());
@@ -89,11 +82,9 @@ TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
 }
 
 TEST(AddTransactionView, EditsARecordInPlace) {
-    const World world("2024-05-15 10:00");
     Book book({{50, "2024-05-10 08:30", "yearly", "2026-05-10", false}, {1}});
-    Transaction& record = *all(book.context).at(0);
+    Transaction& record = *book.all().at(0);
     AddTransactionView form(book.context, &record);
-    EXPECT_EQ(form.navigationTitle(), u"Edit Transaction");
     EXPECT_EQ(form.amount(), u"50");
     EXPECT_EQ(form.selectedPositive(), u"Spending");
     EXPECT_EQ(form.selectedType(), u"Yearly");
@@ -102,7 +93,7 @@ TEST(AddTransactionView, EditsARecordInPlace) {
     EXPECT_EQ(record.title(), QStringLiteral("title")) << "nothing is written before the save";
 
     form.save();
-    EXPECT_EQ(all(book.context).size(), 2U);
+    EXPECT_EQ(book.all().size(), 2U);
     EXPECT_EQ(record.startDate(), at("2024-05-10 08:30"));
 
     record.setRecurringType({});
@@ -110,16 +101,15 @@ TEST(AddTransactionView, EditsARecordInPlace) {
 }
 
 TEST(AddTransactionViewDeathTest, StopsOverWhatItCannotKeep) {
-    const World world("2024-05-15 10:00");
     Book book({{1}});
     AddTransactionView form(book.context);
     fill(form, "2147483648");
     EXPECT_DEATH(form.save(), "2147483648");
     fill(form, "2147483647");
     form.save();
-    EXPECT_EQ(all(book.context).back()->amount(), 2147483647);
+    EXPECT_EQ(book.all().back()->amount(), 2147483647);
 
-    Transaction& record = *all(book.context).at(0);
+    Transaction& record = *book.all().at(0);
     record.setEndDate({});
     EXPECT_DEATH(AddTransactionView(book.context, &record), "has no endDate");
     record.setEndDate(at("2030-01-01"));

@@ -14,8 +14,7 @@ std::int32_t contribution(const Transaction& transaction, TimeFrame timeFrame) {
 }
 
 TEST(RecurrenceDeathTest, StopsOverAnOverflowAndAMissingDate) {
-    const World world("2024-05-15 10:00");
-    Book book({});
+    Book book;
     Transaction& rich = book.add({2000000000, "2020-01-01", "monthly"});
     EXPECT_DEATH((void)contribution(rich, 3), "Arithmetic overflow: 2000000000");
 

@@ -1,7 +1,4 @@
-#include "model/Transaction.h"
-#include "model/PersistenceController.h"
 #include "model/TransactionPresentation.h"
-#include "support/World.h"
 
 #include <gtest/gtest.h>
 #include <unordered_set>

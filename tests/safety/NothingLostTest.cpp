@@ -21,10 +21,6 @@ int rounds(int few) {
     return many.isEmpty() ? few : many.toInt();
 }
 
-std::vector<Transaction*> all(const Book& book) {
-    return book.context.fetch<Transaction>(Transaction::fetchRequest());
-}
-
 /// The text that goes with an amount, so that half a record would show.
 QString titleOf(std::int32_t amount) {
     return QString(amount, u'x');
@@ -32,13 +28,10 @@ QString titleOf(std::int32_t amount) {
 
 /// What a next start finds, in the order in which it was added.
 Amounts stored() {
-    const Book book({});
-    Amounts amounts;
-    for (const Transaction* transaction : all(book)) {
+    const Book book;
+    for (const Transaction* transaction : book.all())
         EXPECT_EQ(transaction->title(), titleOf(transaction->amount()));
-        amounts.push_back(transaction->amount());
-    }
-    return amounts;
+    return book.amounts();
 }
 
 void addAndSave(Book& book, const Amounts& amounts) {
@@ -54,7 +47,7 @@ void change(std::mt19937& random, Amounts& amounts, Book* book) {
         const auto at = std::min<std::size_t>(random() % 60, amounts.size());
         const bool isNew = at == amounts.size(), goes = !isNew && random() % 4 == 0;
         if (book) {
-            Transaction& record = isNew ? book->add({}) : *all(*book)[at];
+            Transaction& record = isNew ? book->add({}) : *book->all()[at];
             record.setAmount(amount);
             record.setTitle(titleOf(amount));
             if (goes)
@@ -89,9 +82,7 @@ bool showsWhatIsThere() {
         listed.push_back(static_cast<Transaction&>(list.object(row)).amount());
     }
     const auto fetched = [&](const Predicate& predicate) {
-        FetchRequest request = Transaction::fetchRequest();
-        request.predicate = predicate;
-        return context.fetch<Transaction>(request);
+        return context.fetch<Transaction>(transactions(predicate));
     };
     auto table = fetched(Predicate(QStringLiteral("title != %@"), {QStringLiteral("?")}));
     const bool isListed = listed.size() == table.size();
@@ -119,8 +110,7 @@ class NothingLost : public testing::Test {
         return days;
     }
 
-    World world{"2024-05-15 10:00"};
-    QDir folder{world.folder() + u"/xdg_data_home/Kovamo"};
+    QDir folder{World::folder() + u"/xdg_data_home/Kovamo"};
     QFile store{folder.filePath(QStringLiteral("Kovamo.sqlite"))};
 };
 
@@ -130,7 +120,7 @@ TEST_F(NothingLost, WhenKilledAtEveryCallAndAtAnyMoment) {
     int call = 1, kills = 0;
     for (unsigned round = 0; kills < rounds(60); ++round) {
         const bool atCall = round % 2 == 0;
-        world.setTime(qPrintable(QStringLiteral("2024-05-%1").arg(10 + round % 7)));
+        World::setTime(qPrintable(QStringLiteral("2024-05-%1").arg(10 + round % 7)));
         const Fork worker([&] {
             std::mt19937 random(round);
             std::signal(SIGALRM, [](int) { std::raise(SIGKILL); });
@@ -138,7 +128,7 @@ TEST_F(NothingLost, WhenKilledAtEveryCallAndAtAnyMoment) {
             if (!atCall)
                 ::ualarm(static_cast<unsigned>(random()) % (1U << (10 + round % 7)), 0);
             random.seed(round);
-            Book book({});
+            Book book;
             for (int save = 0; save < 12; ++save) {
                 change(random, amounts, &book);
                 std::fputc('.', stderr);
@@ -179,7 +169,7 @@ TEST_F(NothingLost, WhenAnyCallFails) {
             for (int call = 1, came = 1; came; ++call) {
                 folder.removeRecursively();
                 (void)Fork([] {
-                    Book book({});
+                    Book book;
                     addAndSave(book, {500, 300});
                     std::raise(SIGKILL); // its log is left
                 });
@@ -208,7 +198,7 @@ TEST_F(NothingLost, WhenAnyCallFails) {
 TEST_F(NothingLost, WhenTheFileIsDamaged) {
     std::mt19937 random(11);
     {
-        Book book({});
+        Book book;
         for (int i = 0; i < 400; ++i)
             book.add({static_cast<std::int32_t>(random() % 5000),
                       qPrintable(QStringLiteral("2024-%1-03").arg(random() % 24)),
@@ -255,7 +245,7 @@ TEST_F(NothingLost, WhenTheFileIsDamaged) {
 TEST_F(NothingLost, WhenTwoProcessesWrite) {
     const Fork both([] {
         const pid_t other = ::fork();
-        Book book({});
+        Book book;
         for (int i = 0; i < 60; ++i)
             addAndSave(book, {i});
         ::waitpid(other, nullptr, 0);
@@ -266,19 +256,19 @@ TEST_F(NothingLost, WhenTwoProcessesWrite) {
 
 TEST_F(NothingLost, WhileTheStateBeforeTheFirstWriteIsKeptForThreeDays) {
     {
-        Book book({});
+        Book book;
         addAndSave(book, {1, 2});
         addAndSave(book, {3});
     }
     (void)stored();
     EXPECT_EQ(kept(), "") << "at first there is nothing to keep, and looking writes nothing";
     for (const char* expected : {"15:3 ", "15:4 "}) {
-        Book book({});
+        Book book;
         addAndSave(book, {4});
         EXPECT_EQ(kept(), expected) << "a day's newest takes the place of the one before";
     }
-    for (Book book({}); const char* day : {"2024-05-16 00:01", "2024-05-17", "2024-05-18"}) {
-        world.setTime(day);
+    for (Book book; const char* day : {"2024-05-16 00:01", "2024-05-17", "2024-05-18"}) {
+        World::setTime(day);
         addAndSave(book, {6});
         addAndSave(book, {7});
     }
@@ -298,9 +288,9 @@ TEST_F(NothingLost, WhileTheStateBeforeTheFirstWriteIsKeptForThreeDays) {
 
 TEST_F(NothingLost, WhenTheCopyIsMadeAheadInSteps) {
     FastQueue queue;
-    Book book({});
+    Book book;
     addAndSave(book, Amounts(100, 9000));
-    world.setTime("2024-05-16");
+    World::setTime("2024-05-16");
     book.context.prepareToSave();
     queue.advance(std::chrono::milliseconds(5));
     EXPECT_EQ(kept(), "") << "there is more to copy than one step takes";

@@ -14,6 +14,13 @@ ManagedObjectContext& loaded(PersistentContainer& container) {
 
 } // namespace
 
+FetchRequest transactions(const Predicate& predicate, std::vector<SortDescriptor> sortDescriptors) {
+    FetchRequest request = Transaction::fetchRequest();
+    request.predicate = predicate;
+    request.sortDescriptors = std::move(sortDescriptors);
+    return request;
+}
+
 Book::Book(std::initializer_list<Line> lines)
     : container(QStringLiteral("Kovamo"), Transaction::entity()), context(loaded(container)) {
     for (const Line& line : lines)
@@ -33,6 +40,17 @@ Transaction& Book::add(const Line& line) {
     transaction.setStartDate(at(line.start));
     transaction.setEndDate(at(line.end));
     return transaction;
+}
+
+std::vector<Transaction*> Book::all(const FetchRequest& request) const {
+    return context.fetch<Transaction>(request);
+}
+
+std::vector<std::int32_t> Book::amounts(const FetchRequest& request) const {
+    std::vector<std::int32_t> amounts;
+    for (const Transaction* transaction : all(request))
+        amounts.push_back(transaction->amount());
+    return amounts;
 }
 
 void Book::elsewhere(const std::string& sql) const {

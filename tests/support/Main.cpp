@@ -1,11 +1,26 @@
+#include "World.h"
+
 #include <QGuiApplication>
 #include <gtest/gtest.h>
+
+namespace {
+
+/// Lets every test begin in a world of its own.
+class Beginnings : public testing::EmptyTestEventListener {
+    void OnTestStart(const testing::TestInfo&) override { m_world.emplace(); }
+    void OnTestEnd(const testing::TestInfo&) override { m_world.reset(); }
+
+    std::optional<kovamo::World> m_world;
+};
+
+} // namespace
 
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     testing::InitGoogleTest(&argc, argv);
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    testing::UnitTest::GetInstance()->listeners().Append(new Beginnings);
     const QGuiApplication app(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -7,22 +7,23 @@
 namespace kovamo {
 
 /// The world of one test: a scratch folder for data, config, cache and home, and a clock that
-/// stands at `local` o'clock ("2024-05-15 10:00") of a zone, in one locale.
+/// stands at `local` o'clock of a zone, in one locale. Every test begins in one by default.
 class World {
   public:
-    explicit World(const char* local, const char* zone = "Europe/Berlin",
+    explicit World(const char* local = "2024-05-15 10:00", const char* zone = "Europe/Berlin",
                    const char* locale = "en_US.UTF-8");
     ~World();
     Q_DISABLE_COPY_MOVE(World)
 
     /// Sets the clock to a moment of the zone.
-    void setTime(const char* local);
+    static void setTime(const char* local);
 
-    /// The scratch folder, which goes with the value.
-    [[nodiscard]] QString folder() const { return m_folder.path(); }
+    /// The scratch folder of the newest world, which goes with it.
+    [[nodiscard]] static QString folder() { return s_folder; }
 
   private:
     QTemporaryDir m_folder;
+    static inline QString s_folder;
 };
 
 /// The instant of "2024-05-15" or "2024-05-15 10:00" or "2024-05-15 10:00:00.123", Gregorian, in

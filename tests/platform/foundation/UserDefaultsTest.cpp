@@ -11,21 +11,13 @@ namespace {
 
 const QString key = QStringLiteral("appStartUpsCountKey");
 
-// The preferences' file, in its folder.
-QString preferences(const World& world) {
-    const QString folder = world.folder() + QStringLiteral("/xdg_config_home/Kovamo");
-    QDir().mkpath(folder);
-    return folder + QStringLiteral("/Kovamo.conf");
+// The folder of the preferences' file.
+QString folder() {
+    return World::folder() + u"/xdg_config_home/Kovamo";
 }
 
 TEST(UserDefaults, ReadsWhatOtherProgramsWroteAndDistrustsIt) {
-    struct Case {
-        const char* content;
-        std::int64_t number;
-        std::size_t lines;
-    };
-    const Case cases[] = {
-        {"appStartUpsCountKey=7\n", 7, 0},
+    const std::tuple<const char*, std::int64_t, std::size_t> cases[] = {
         {"[General]\nappStartUpsCountKey=7\n", 7, 0},
         {"appStartUpsCountKey=\"7\"\n[Else]\nappStartUpsCountKey=3\n", 7, 0},
         {"appStartUpsCountKey=9223372036854775807\n", INT64_MAX, 0},
@@ -35,22 +27,22 @@ TEST(UserDefaults, ReadsWhatOtherProgramsWroteAndDistrustsIt) {
         {"appStartUpsCountKey=7\n[Else\n", 0, 1},
         {"\xff\xfe no preferences", 0, 1},
     };
-    for (const Case& each : cases) {
-        const World world("2024-05-15 10:00");
-        std::ofstream(preferences(world).toStdString()) << each.content;
+    for (const auto& [content, number, lines] : cases) {
+        const World world;
+        QDir().mkpath(folder());
+        std::ofstream(folder().toStdString() + "/Kovamo.conf") << content;
         testing::internal::CaptureStderr();
         UserDefaults defaults;
-        EXPECT_EQ(defaults.integer(key), each.number) << each.content;
+        EXPECT_EQ(defaults.integer(key), number) << content;
         defaults.set(key, std::int64_t{8});
         defaults.set(key, std::int64_t{9});
         const std::string output = testing::internal::GetCapturedStderr();
-        EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), each.lines) << output;
-        EXPECT_EQ(UserDefaults().integer(key), 9) << each.content;
+        EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), lines) << output;
+        EXPECT_EQ(UserDefaults().integer(key), 9) << content;
     }
 }
 
 TEST(UserDefaults, KeepsEveryKindForTheNextStartInAFolderOfItsOwner) {
-    const World world("2024-05-15 10:00");
     const QString text = QString::fromUtf8("1, 2; \"ü\" = [General]");
     UserDefaults& defaults = UserDefaults::standard();
     EXPECT_FALSE(defaults.boolean(QStringLiteral("flag")));
@@ -60,8 +52,7 @@ TEST(UserDefaults, KeepsEveryKindForTheNextStartInAFolderOfItsOwner) {
     UserDefaults::reopenStandard();
     EXPECT_TRUE(UserDefaults::standard().boolean(QStringLiteral("flag")));
     EXPECT_EQ(UserDefaults::standard().string(QStringLiteral("text")), text);
-    const QFileInfo folder(world.folder() + QStringLiteral("/xdg_config_home/Kovamo"));
-    EXPECT_EQ(folder.permissions() & 0x0077, 0);
+    EXPECT_EQ(QFileInfo(folder()).permissions() & 0x0077, 0);
 }
 
 } // namespace

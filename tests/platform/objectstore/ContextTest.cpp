@@ -1,4 +1,4 @@
-#include "Ledger.h"
+#include "support/Book.h"
 
 #include <gtest/gtest.h>
 
@@ -7,85 +7,51 @@ namespace {
 
 using Amounts = std::vector<std::int32_t>;
 
-const Predicate flagged(QStringLiteral("flag == YES"));
-
 TEST(Context, ShowsItsFetchesWhatIsNotSavedYet) {
-    const World world("2024-05-15 10:00");
-    Ledger ledger;
-    ledger.add(1).set(Entry::Flag, true);
-    Entry& second = ledger.add(2);
-    Entry& third = ledger.add(3);
-    third.set(Entry::Flag, true);
-    ledger.context.save();
+    const Predicate recurring(QStringLiteral("isRecurring == YES"));
+    Book book({{1, "2024-05-15", "monthly"}, {2}, {3, "2024-05-15", "monthly"}});
+    const auto saved = book.all();
+    book.add({4, "2024-05-15", "monthly"});
+    saved[1]->setIsRecurring(true);
+    book.context.deleteObject(*saved[2]);
+    EXPECT_EQ(book.amounts(transactions(recurring)), (Amounts{1, 2, 4}));
+    FetchRequest largest = transactions(recurring, {{QStringLiteral("amount"), false}});
+    EXPECT_EQ(book.amounts(largest), (Amounts{4, 2, 1}));
+    EXPECT_EQ(book.context.count(largest), 3U);
+    largest.fetchLimit = 1;
+    EXPECT_EQ(book.context.count(largest), 1U);
 
-    ledger.add(4).set(Entry::Flag, true);
-    second.set(Entry::Flag, true);
-    ledger.context.deleteObject(third);
-    EXPECT_EQ(ledger.amounts(entries(flagged)), (Amounts{1, 2, 4}));
-    EXPECT_EQ(ledger.amounts(entries(flagged, {{QStringLiteral("amount"), false}})),
-              (Amounts{4, 2, 1}));
-    EXPECT_EQ(ledger.context.count(entries()), 3U);
-    FetchRequest one = entries();
-    one.fetchLimit = 1;
-    EXPECT_EQ(ledger.context.count(one), 1U);
-
-    ledger.context.save();
-    EXPECT_FALSE(ledger.context.hasChanges());
-    EXPECT_EQ(Ledger().amounts(entries(flagged)), (Amounts{1, 2, 4})) << "after a restart";
-}
-
-TEST(Context, HoldsOneObjectForARecord) {
-    const World world("2024-05-15 10:00");
-    Ledger ledger;
-    const Entry* added = &ledger.add(7);
-    ledger.context.save();
-    EXPECT_EQ(ledger.context.fetch<Entry>(entries()), std::vector{const_cast<Entry*>(added)});
-    EXPECT_EQ(&ledger.context.object(added->objectID()), added);
+    book.context.save();
+    EXPECT_FALSE(book.context.hasChanges());
+    EXPECT_EQ(book.all()[0], saved[0]) << "one object for a record";
+    EXPECT_EQ(Book().amounts(transactions(recurring)), (Amounts{1, 2, 4})) << "after a restart";
 }
 
 TEST(Context, TellsOfChangesOnceForManyAndBeforeASaveEnds) {
-    const World world("2024-05-15 10:00");
-    Ledger ledger;
-    int told = 0;
-    std::size_t inserted = 0;
-    QObject::connect(&ledger.context, &ManagedObjectContext::objectsDidChange,
-                     [&](const ObjectChanges& changes) {
-                         ++told;
-                         inserted = changes.inserted.size();
-                     });
-    ledger.add(1);
-    ledger.add(2);
-    ledger.context.deleteObject(ledger.add(3));
-    EXPECT_EQ(told, 0);
-    ledger.context.save();
-    EXPECT_EQ(told, 1);
-    EXPECT_EQ(inserted, 2U);
+    Book book;
+    std::vector<std::size_t> told;
+    QObject::connect(
+        &book.context, &ManagedObjectContext::objectsDidChange,
+        [&](const ObjectChanges& changes) { told.push_back(changes.inserted.size()); });
+    book.add({1});
+    book.add({2});
+    book.context.deleteObject(book.add({3}));
+    EXPECT_TRUE(told.empty());
+    book.context.save();
+    EXPECT_EQ(told, (std::vector<std::size_t>{2}));
 }
 
 TEST(Context, MergesWhatAnotherWriterSaved) {
-    const World world("2024-05-15 10:00");
-    Ledger ours;
-    ours.context.setAutomaticallyMergesChangesFromParent(true);
-    Entry& edited = ours.add(1);
-    ours.add(2);
-    ours.context.save();
-    EXPECT_EQ(ours.amounts(entries()), (Amounts{1, 2}));
+    Book book({{1}, {2}});
+    book.context.setAutomaticallyMergesChangesFromParent(true);
+    book.elsewhere("UPDATE \"Transaction\" SET amount = 20 WHERE amount = 2");
+    book.elsewhere("INSERT INTO \"Transaction\" (amount) VALUES (3)");
+    EXPECT_EQ(book.amounts(), (Amounts{1, 20, 3}));
 
-    ours.elsewhere("UPDATE Entry SET amount = 20 WHERE amount = 2");
-    ours.elsewhere("INSERT INTO Entry (amount) VALUES (3)");
-    EXPECT_EQ(ours.amounts(entries()), (Amounts{1, 20, 3}));
-
-    edited.set(Entry::Amount, std::int32_t{5});
-    ours.elsewhere("DELETE FROM Entry WHERE amount = 1");
-    ours.context.save();
-    EXPECT_EQ(Ledger().amounts(entries()), (Amounts{5, 20, 3})) << "the edit was lost";
-}
-
-TEST(ContextDeathTest, NamesAnUnknownEntity) {
-    const World world("2024-05-15 10:00");
-    Ledger ledger;
-    EXPECT_DEATH((void)ledger.context.fetchIDs({.entityName = QStringLiteral("Wallet")}),
-                 "Fatal error: .*Wallet");
+    book.all()[0]->setAmount(5);
+    book.elsewhere("DELETE FROM \"Transaction\" WHERE amount = 1");
+    book.context.save();
+    EXPECT_EQ(Book().amounts(), (Amounts{5, 20, 3})) << "the edit was lost";
 }
 
 } // namespace

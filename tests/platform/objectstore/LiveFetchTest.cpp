@@ -1,9 +1,10 @@
 #include "platform/objectstore/LiveFetch.h"
-#include "Ledger.h"
+#include "support/Book.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>
 #include <gtest/gtest.h>
+#include <random>
 
 namespace kovamo {
 namespace {
@@ -14,7 +15,7 @@ class Rows : public LiveFetch {
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
         if (role != Qt::DisplayRole)
             return {};
-        return static_cast<const Entry&>(object(index.row())).amount();
+        return static_cast<const Transaction&>(object(index.row())).amount();
     }
     [[nodiscard]] std::vector<std::int32_t> amounts() const {
         std::vector<std::int32_t> amounts;
@@ -25,46 +26,37 @@ class Rows : public LiveFetch {
 };
 
 TEST(LiveFetch, FollowsEveryChangeAsAFreshFetchWould) {
-    const World world("2024-05-15 10:00");
-    Ledger ledger;
-    const FetchRequest request =
-        entries(Predicate(QStringLiteral("flag == YES")), {{QStringLiteral("amount"), false}});
-    Rows rows(ledger.context, request);
+    Book book;
+    const FetchRequest request = transactions(Predicate(QStringLiteral("isPositive == YES")),
+                                              {{QStringLiteral("amount"), false}});
+    Rows rows(book.context, request);
     const QAbstractItemModelTester tester(&rows,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     std::mt19937 random(3);
-    const auto any = [&] {
-        const auto all = ledger.context.fetch<Entry>(entries());
-        return all.empty() ? nullptr : all[random() % all.size()];
-    };
     for (int step = 0; step < 400; ++step) {
         const auto amount = static_cast<std::int32_t>(random() % 20);
-        Entry* entry = any();
-        if (!entry || random() % 3 == 0)
-            ledger.add(amount).set(Entry::Flag, true);
+        const auto all = book.all();
+        Transaction* any = all.empty() ? nullptr : all[random() % all.size()];
+        if (!any || random() % 3 == 0)
+            book.add({amount});
         else if (random() % 3 == 0)
-            ledger.context.deleteObject(*entry);
+            book.context.deleteObject(*any);
         else if (random() % 3 == 0)
-            entry->set(Entry::Flag, random() % 2 == 0);
+            any->setIsPositive(random() % 2 == 0);
         else
-            entry->set(Entry::Amount, amount);
-        switch (random() % 3) {
-        case 0:
-            break;
-        case 1:
+            any->setAmount(amount);
+        if (const auto turn = random() % 3; turn == 1)
             QCoreApplication::processEvents();
-            break;
-        default:
-            ledger.context.save();
-        }
+        else if (turn == 2)
+            book.context.save();
     }
-    ledger.context.save();
+    book.context.save();
     EXPECT_GT(rows.rowCount(), 10);
-    EXPECT_EQ(rows.amounts(), ledger.amounts(request));
+    EXPECT_EQ(rows.amounts(), book.amounts(request));
 
-    ledger.context.setAutomaticallyMergesChangesFromParent(true);
-    ledger.elsewhere("INSERT INTO Entry (amount, flag) VALUES (1000, 1)");
-    (void)ledger.context.count(request);
+    book.context.setAutomaticallyMergesChangesFromParent(true);
+    book.elsewhere("INSERT INTO \"Transaction\" (amount, isPositive) VALUES (1000, 1)");
+    (void)book.context.count(request);
     QCoreApplication::processEvents();
     EXPECT_EQ(rows.amounts().front(), 1000) << "another writer's record is not shown";
 }

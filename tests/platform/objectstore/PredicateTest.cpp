@@ -1,6 +1,7 @@
-#include "Ledger.h"
+#include "support/Book.h"
 
 #include <gtest/gtest.h>
+#include <random>
 
 namespace kovamo {
 namespace {
@@ -22,13 +23,13 @@ QString randomCondition(std::mt19937& random, std::vector<Value>& arguments, int
     const QString comparison = QLatin1String(operators[below(8)]);
     switch (below(4)) {
     case 0:
-        return u"flag " + comparison + (below(2) ? u" YES" : u" NO");
+        return u"isPositive " + comparison + (below(2) ? u" YES" : u" NO");
     case 1:
         arguments.emplace_back(day(static_cast<int>(below(5))));
-        return u"day" + comparison + u"%@";
+        return u"startDate" + comparison + u"%@";
     case 2:
         arguments.emplace_back(QString(QChar(static_cast<char16_t>(u'a' + below(4)))));
-        return u"note " + comparison + u" %@";
+        return u"title " + comparison + u" %@";
     default:
         arguments.emplace_back(static_cast<std::int32_t>(below(5)));
         return u"amount " + comparison + u" %@";
@@ -36,33 +37,32 @@ QString randomCondition(std::mt19937& random, std::vector<Value>& arguments, int
 }
 
 TEST(Predicate, MeansTheSameToTheStoreAndToPendingRecords) {
-    const World world("2024-05-15 10:00");
     std::mt19937 random(7);
-    Ledger saved;
+    Book book;
     for (int i = 0; i < 60; ++i) {
-        Entry& entry = saved.add(static_cast<std::int32_t>(random() % 5));
+        Transaction& record = book.add({static_cast<std::int32_t>(random() % 5)});
+        record.setTitle({});
         if (random() % 3)
-            entry.set(Entry::Note, QString(QChar(static_cast<char16_t>(u'a' + random() % 4))));
+            record.setTitle(QString(QChar(static_cast<char16_t>(u'a' + random() % 4))));
+        record.setStartDate({});
         if (random() % 3)
-            entry.set(Entry::Day, day(static_cast<int>(random() % 5)));
-        entry.set(Entry::Flag, random() % 2 == 0);
+            record.setStartDate(day(static_cast<int>(random() % 5)));
+        record.setIsPositive(random() % 2 == 0);
     }
-    saved.context.save();
-    const auto all = saved.context.fetch<Entry>(entries());
+    book.context.save();
     for (int i = 0; i < 500; ++i) {
         std::vector<Value> arguments;
         const QString format = randomCondition(random, arguments);
         const Predicate predicate(format, arguments);
-        std::vector<Entry*> expected;
-        std::ranges::copy_if(all, std::back_inserter(expected), [&](const Entry* entry) {
-            return predicate.matches(Entry::entity(), entry->values());
+        auto expected = book.all();
+        std::erase_if(expected, [&](const Transaction* record) {
+            return !predicate.matches(Transaction::entity(), record->values());
         });
-        EXPECT_EQ(saved.context.fetch<Entry>(entries(predicate)), expected) << qPrintable(format);
+        EXPECT_EQ(book.all(transactions(predicate)), expected) << qPrintable(format);
     }
 }
 
 TEST(PredicateDeathTest, NamesWhatItCannotMean) {
-    const World world("2024-05-15 10:00");
     const struct {
         const char* format;
         std::vector<Value> arguments;
@@ -70,20 +70,18 @@ TEST(PredicateDeathTest, NamesWhatItCannotMean) {
     } cases[] = {
         {"amount >", {}, "Malformed predicate: .amount >"},
         {"amount == %@", {}, "Malformed predicate"},
-        {"flag == YES", {std::int32_t{1}}, "Malformed predicate"},
-        {"flag == YES AND", {}, "Malformed predicate"},
-        {"(flag == YES", {}, "Malformed predicate"},
-        {"flag == YES flag == NO", {}, "Malformed predicate"},
-        {"flag == 1; DROP TABLE Entry", {}, "Malformed predicate"},
+        {"isPositive == YES", {std::int32_t{1}}, "Malformed predicate"},
+        {"(isPositive == YES", {}, "Malformed predicate"},
+        {"isPositive == YES isPositive == NO", {}, "Malformed predicate"},
         {"colour == YES", {}, "has no attribute .colour"},
         {"amount == YES", {}, "compares .amount. with a value of another type"},
     };
-    Ledger ledger;
+    Book book;
     for (const auto& [format, arguments, message] : cases)
-        EXPECT_DEATH(
-            (void)ledger.context.fetchIDs(entries(Predicate(QString::fromUtf8(format), arguments))),
-            message)
+        EXPECT_DEATH((void)book.all(transactions(Predicate(QString::fromUtf8(format), arguments))),
+                     message)
             << format;
+    EXPECT_DEATH((void)book.context.fetchIDs({.entityName = QStringLiteral("Wallet")}), "Wallet");
 }
 
 } // namespace

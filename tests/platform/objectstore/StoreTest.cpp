@@ -1,4 +1,4 @@
-#include "Ledger.h"
+#include "support/Book.h"
 
 #include <QDir>
 #include <QFile>
@@ -17,7 +17,7 @@ QByteArray bytes(const QString& path) {
 
 /// The description that loading fails with; empty when it does not.
 QString failure() {
-    PersistentContainer container(QStringLiteral("Ledger"), Entry::entity());
+    PersistentContainer container(QStringLiteral("Kovamo"), Transaction::entity());
     QString description;
     container.loadPersistentStores([&](const StoreError* error) {
         if (error)
@@ -33,52 +33,48 @@ unsigned mode(const QString& path) {
 }
 
 TEST(Store, KeepsEveryValueOverARestart) {
-    const World world("2024-05-15 10:00");
     const QString text =
         QStringLiteral("مرحبا <b>x</b>\n") + QChar(u'\0') + QChar(0x0301) + QString(1 << 20, u'x');
     const QUuid id = QUuid::createUuid();
     {
-        Ledger ledger;
-        Entry& entry = ledger.add(std::numeric_limits<std::int32_t>::min(), text);
-        entry.set(Entry::Day, at("1901-02-03 04:05:06.007"));
-        entry.set(Entry::Id, id);
-        entry.set(Entry::Flag, true);
-        ledger.add(std::numeric_limits<std::int32_t>::max());
-        ledger.context.save();
-        EXPECT_EQ(mode(ledger.container.storePath()), 0600U);
-        EXPECT_EQ(mode(QFileInfo(ledger.container.storePath()).path()), 0700U);
+        Book book;
+        Transaction& record = book.add({std::numeric_limits<std::int32_t>::min()});
+        record.setTitle(text);
+        record.setStartDate(at("1901-02-03 04:05:06.007"));
+        record.setId(id);
+        book.add({std::numeric_limits<std::int32_t>::max()}).setTitle({});
+        book.context.save();
+        EXPECT_EQ(mode(book.container.storePath()), 0600U);
+        EXPECT_EQ(mode(QFileInfo(book.container.storePath()).path()), 0700U);
     }
-    Ledger ledger;
-    const auto all = ledger.context.fetch<Entry>(entries());
+    const Book book;
+    const auto all = book.all();
     ASSERT_EQ(all.size(), 2U);
     EXPECT_EQ(all[0]->amount(), std::numeric_limits<std::int32_t>::min());
-    EXPECT_EQ(all[0]->at(Entry::Note), Value(text));
-    EXPECT_EQ(all[0]->at(Entry::Day), Value(at("1901-02-03 04:05:06.007")));
-    EXPECT_EQ(all[0]->at(Entry::Id), Value(id));
-    EXPECT_EQ(all[0]->at(Entry::Flag), Value(true));
-    EXPECT_TRUE(isAbsent(all[1]->at(Entry::Note)));
+    EXPECT_EQ(all[0]->title(), text);
+    EXPECT_EQ(all[0]->startDate(), at("1901-02-03 04:05:06.007"));
+    EXPECT_EQ(all[0]->id(), id);
+    EXPECT_TRUE(all[0]->isPositive());
+    EXPECT_EQ(all[1]->title(), std::nullopt);
 }
 
 TEST(Store, ShowsTheRowsOfAnotherProgram) {
-    const World world("2024-05-15 10:00");
-    const QString path = Ledger().container.storePath();
-    SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE)
-        .exec("INSERT INTO \"Entry\" (\"amount\", \"note\", \"day\", \"id\", \"flag\") VALUES "
-              "(42, 'tea', 1715767200000, '0b5a2a4e-7a3a-4c1e-9f52-0d8f6f0c9a11', 1)");
-    Ledger ledger;
-    const Entry* entry = ledger.context.fetch<Entry>(entries()).at(0);
-    EXPECT_EQ(entry->at(Entry::Note), Value(QStringLiteral("tea")));
-    EXPECT_EQ(entry->at(Entry::Day), Value(at("2024-05-15 12:00")));
-    EXPECT_EQ(entry->at(Entry::Id), Value(QUuid("0b5a2a4e-7a3a-4c1e-9f52-0d8f6f0c9a11")));
+    const Book book;
+    book.elsewhere("INSERT INTO \"Transaction\" (amount, startDate, id) VALUES "
+                   "(42, 1715767200000, '0b5a2a4e-7a3a-4c1e-9f52-0d8f6f0c9a11')");
+    const Transaction& record = *book.all().at(0);
+    EXPECT_EQ(record.amount(), 42);
+    EXPECT_EQ(record.startDate(), at("2024-05-15 12:00"));
+    EXPECT_EQ(record.id(), QUuid("0b5a2a4e-7a3a-4c1e-9f52-0d8f6f0c9a11"));
 }
 
 TEST(Store, RefusesWhatIsNotItsOwnAndLeavesItAlone) {
-    const World world("2024-05-15 10:00");
-    const QString path = Ledger().container.storePath();
+    const QString path = Book().container.storePath();
     const std::pair<const char*, const char*> cases[] = {
         {"PRAGMA user_version = 42", "newer version"},
         {"PRAGMA user_version = 0", "no store of the app"},
-        {"PRAGMA user_version = 1; ALTER TABLE Entry RENAME note TO word", "no such column"},
+        {"PRAGMA user_version = 1; ALTER TABLE \"Transaction\" RENAME title TO x",
+         "no such column"},
     };
     for (const auto& [sql, description] : cases) {
         SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec(sql);
