@@ -7,7 +7,6 @@
 #include <QRect>
 #include <QSet>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 namespace {

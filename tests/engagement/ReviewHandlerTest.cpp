@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QUrl>
 #include <fstream>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 namespace {
@@ -25,7 +24,6 @@ class ReviewHandlerTest : public testing::Test {
     ReviewHandlerTest() {
         Bundle::main().setInfoDictionary({{kCFBundleVersionKey, QStringLiteral("17")}});
         m_controller.setSheetPresented(false);
-        m_controller.dismiss();
         m_window.show();
         m_window.requestActivate();
         QCoreApplication::processEvents();
@@ -39,7 +37,6 @@ class ReviewHandlerTest : public testing::Test {
         return shown;
     }
 
-    World m_world{"2024-05-15 10:00"};
     FastQueue m_queue;
     QWindow m_window;
     ReviewController& m_controller = ReviewController::shared();
@@ -90,11 +87,11 @@ TEST_F(ReviewHandlerTest, ThePlatformPromptsThriceInAYearAndNeverOverASheet) {
         {"2025-05-15 10:00", false},        {"2024-01-01", false},
     };
     for (const auto& [time, shown] : asked) {
-        m_world.setTime(time);
+        World::setTime(time);
         UserDefaults::reopenStandard();
         EXPECT_EQ(prompts(), shown) << time;
     }
-    m_world.setTime("2026-08-01");
+    World::setTime("2026-08-01");
     ReviewController::requestReview(m_window);
     m_controller.setSheetPresented(true);
     EXPECT_EQ(m_controller.scene(), nullptr) << "a sheet sends it away";
@@ -113,7 +110,7 @@ class SoftwareCentre : public QObject {
 
 TEST_F(ReviewHandlerTest, StarsLeadToTheSoftwareCentreOrToThanks) {
     const SoftwareCentre centre;
-    const QDir folder(m_world.folder());
+    const QDir folder(World::folder());
     qputenv("XDG_DATA_DIRS", folder.path().toUtf8());
     ReviewController::requestReview(m_window);
     m_controller.rate(4);

@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <SQLiteCpp/Database.h>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace kovamo {
@@ -206,19 +205,13 @@ TEST_F(NothingLost, WhenTheFileIsDamaged) {
                 .setTitle(titleOf(static_cast<std::int32_t>(random() % 120)));
         book.context.save();
     }
-    const auto content = [&] {
-        EXPECT_TRUE(store.open(QIODevice::ReadOnly));
-        const QByteArray bytes = store.readAll();
-        store.close();
-        return bytes;
-    };
-    const QByteArray good = content();
+    const QByteArray good = content(store.fileName());
     const auto isRefused = [&](const QByteArray& bytes) {
         EXPECT_TRUE(store.open(QIODevice::WriteOnly));
         store.write(bytes);
         store.close();
         const Fork app([] { std::fputs(showsWhatIsThere() ? "right" : "wrong", stderr); });
-        EXPECT_TRUE(content() == bytes) << "it was written to";
+        EXPECT_TRUE(content(store.fileName()) == bytes) << "it was written to";
         const bool stopped = app.signal == SIGABRT && app.said.starts_with("Fatal error: ");
         EXPECT_TRUE(stopped || (app.signal == 0 && app.said == "right")) << app.signal << app.said;
         return stopped;

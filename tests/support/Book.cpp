@@ -1,7 +1,6 @@
 #include "Book.h"
 
 #include <SQLiteCpp/Database.h>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 

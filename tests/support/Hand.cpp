@@ -4,7 +4,6 @@
 #include <QGuiApplication>
 #include <QInputMethodEvent>
 #include <QTest>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 
@@ -36,11 +35,16 @@ QQuickItem* shown(const QQuickWindow& window, const QString& text, bool expected
 
 QQuickItem* named(const QQuickWindow& window, const QString& name, const QString& description) {
     return findItem(window, [&](const QQuickItem& item) {
-        QAccessibleInterface* interface =
-            item.isVisible() ? QAccessible::queryAccessibleInterface(&const_cast<QQuickItem&>(item))
-                             : nullptr;
-        return interface && interface->text(QAccessible::Name) == name &&
+        auto* interface = QAccessible::queryAccessibleInterface(&const_cast<QQuickItem&>(item));
+        return item.isVisible() && interface && interface->text(QAccessible::Name) == name &&
                (description.isEmpty() || interface->text(QAccessible::Description) == description);
+    });
+}
+
+void failOnWarnings(const QQmlEngine& engine) {
+    QObject::connect(&engine, &QQmlEngine::warnings, [](const QList<QQmlError>& errors) {
+        for (const QQmlError& error : errors)
+            ADD_FAILURE() << error.toString().toStdString();
     });
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QString>
 #include <functional>
+#include <gtest/gtest.h>
 
 namespace kovamo {
 
@@ -19,6 +21,9 @@ namespace kovamo {
 /// The topmost visible item that a screen reader calls `name` and describes as `description`.
 [[nodiscard]] QQuickItem* named(const QQuickWindow& window, const QString& name,
                                 const QString& description = {});
+
+/// Fails the test over every complaint of QML.
+void failOnWarnings(const QQmlEngine& engine);
 
 /// The middle of an item in its window.
 [[nodiscard]] QPoint middle(const QQuickItem* item);

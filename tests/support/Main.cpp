@@ -1,7 +1,6 @@
 #include "World.h"
 
 #include <QGuiApplication>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -22,5 +21,6 @@ int main(int argc, char** argv) {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     testing::UnitTest::GetInstance()->listeners().Append(new Beginnings);
     const QGuiApplication app(argc, argv);
+    const kovamo::World world; // of a death test's process, in which no listener is told
     return RUN_ALL_TESTS();
 }

@@ -3,7 +3,7 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include <QDir>
-#include <gtest/gtest.h>
+#include <QFile>
 #include <unicode/gregocal.h>
 #include <unicode/smpdtfmt.h>
 #include <unicode/timezone.h>
@@ -40,6 +40,12 @@ Instant at(const char* local) {
     icu::GregorianCalendar calendar(year, month - 1, day, hour, minute, second, status);
     const auto whole = static_cast<std::int64_t>(calendar.getTime(status));
     return Instant(std::chrono::milliseconds(whole + millisecond));
+}
+
+QByteArray content(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QFile::ReadOnly)) << qPrintable(path);
+    return file.readAll();
 }
 
 std::string text(Instant instant) {

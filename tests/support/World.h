@@ -3,6 +3,7 @@
 #include "platform/foundation/Calendar.h"
 
 #include <QTemporaryDir>
+#include <gtest/gtest.h>
 
 namespace kovamo {
 
@@ -29,6 +30,9 @@ class World {
 /// The instant of "2024-05-15" or "2024-05-15 10:00" or "2024-05-15 10:00:00.123", Gregorian, in
 /// the zone of the world.
 [[nodiscard]] Instant at(const char* local);
+
+/// The bytes of a file.
+[[nodiscard]] QByteArray content(const QString& path);
 
 /// The Gregorian text of an instant in the zone of the world: "2024-05-15 10:00:00.000".
 [[nodiscard]] std::string text(Instant instant);

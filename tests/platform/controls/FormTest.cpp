@@ -1,37 +1,31 @@
-#include "Stage.h"
+#include "support/Stage.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 namespace {
 
-constexpr const char* amountField = R"(
-    property string amount
-    function keep(text: string) { amount = text.replace(/[^0-9]/g, ''); }
-    FormTextField { objectName: 'field'; text: amount; numeric: true; onEdited: text => keep(text) })";
-
-QQuickItem* focused(Stage& stage) {
-    return stage.window()->activeFocusItem();
-}
-
 TEST(FormTextField, FollowsAnOwnerWhoFilters) {
-    Stage stage(amountField);
+    Stage stage(R"(
+        property string amount
+        function keep(text: string) { amount = text.replace(/[^0-9]/g, ''); }
+        FormTextField { objectName: 'field'; text: amount; numeric: true; onEdited: text => keep(text) })");
     stage.click(stage.item("field"));
+    const QQuickItem* focused = stage.window()->activeFocusItem();
     for (const char key : {'1', '2', 'a', ',', '5'}) {
         QTest::keyClick(stage.window(), key);
-        EXPECT_EQ(focused(stage)->property("text"), stage.get("amount")) << key;
+        EXPECT_EQ(focused->property("text"), stage.get("amount")) << key;
     }
     EXPECT_EQ(stage.get("amount"), QVariant("125"));
     stage.press(Qt::Key_Left);
     for (const char* typed : {"x", "9", " ", "-40", "٣"})
-        stage.type(QString::fromUtf8(typed));
+        type(typed);
     EXPECT_EQ(stage.get("amount"), QVariant("129405")) << "the caret left its place";
-    EXPECT_EQ(focused(stage)->property("cursorPosition").toInt(), 5);
-    EXPECT_TRUE(focused(stage)->property("inputMethodHints").toInt() & Qt::ImhDigitsOnly);
+    EXPECT_EQ(focused->property("cursorPosition").toInt(), 5);
+    EXPECT_TRUE(focused->property("inputMethodHints").toInt() & Qt::ImhDigitsOnly);
     stage.set("amount", "7");
-    EXPECT_EQ(focused(stage)->property("text"), QVariant("7"));
+    EXPECT_EQ(focused->property("text"), QVariant("7"));
 }
 
 TEST(FormTextField, TakesAnyText) {
@@ -40,11 +34,11 @@ TEST(FormTextField, TakesAnyText) {
         "'Title'; onEdited: text => title = text }");
     EXPECT_TRUE(stage.showing("Title"));
     stage.click(stage.item("field"));
-    for (const QString& text : {QStringLiteral("<b>bold</b> **stars** &amp;"),
-                                QStringLiteral("مقهى ☕️ ‏שלום"),
-                                QStringLiteral("👩‍👩‍👧‍👦"),
-                                QString(QStringLiteral("a\0b\nc\td").data(), 7),
-                                QStringLiteral(" "), QString(1'000'000, QLatin1Char('m'))}) {
+    for (const QString& text :
+         {QStringLiteral(
+              "<b>bold</b> **stars** &amp; مقهى ☕️ ‏שלום 👩‍👩‍👧‍👦"),
+          QString(QStringLiteral("a\0b\nc\td").data(), 7), QStringLiteral(" "),
+          QString(1'000'000, QLatin1Char('m'))}) {
         QGuiApplication::clipboard()->setText(text);
         QTest::keySequence(stage.window(), QKeySequence::SelectAll);
         QTest::keySequence(stage.window(), QKeySequence::Paste);
@@ -91,7 +85,7 @@ TEST(GroupedForm, ShowsWhatHasTheFocusAndTalksToTheKeyboard) {
     EXPECT_TRUE(stage.get("on").toBool());
     EXPECT_TRUE(Stage::soon([&] { return stage.item("section")->height() > height + 40; }));
     stage.item("save")->forceActiveFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(Stage::soon([&] { return Stage::middle(stage.item("save")).y() < 200 - 22; }));
+    EXPECT_TRUE(Stage::soon([&] { return middle(stage.item("save")).y() < 200 - 22; }));
     stage.press(Qt::Key_Return);
     stage.click(stage.item("save"));
     stage.set("enabled", false, "save");

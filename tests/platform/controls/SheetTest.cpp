@@ -1,6 +1,4 @@
-#include "Stage.h"
-
-#include <gtest/gtest.h>
+#include "support/Stage.h"
 
 namespace kovamo {
 namespace {
@@ -57,22 +55,16 @@ TEST(Sheet, LeavesNothingToWhatIsBehind) {
 }
 
 TEST(Sheet, IsDraggedByItsBar) {
-    struct Case {
-        const char* what;
-        QPoint from;
-        int by;
-        int milliseconds;
-        const char* log;
+    const std::tuple<const char*, int, int, int, bool> cases[] = {
+        {"far", 60, 500, 4000, true},         {"near", 60, 100, 4000, false},
+        {"near, thrown", 60, 100, 40, true},  {"up", 60, -40, 40, false},
+        {"the content", 700, 100, 40, false},
     };
-    for (const Case& c :
-         {Case{"far", {200, 60}, 500, 4000, "dismissed closed "},
-          Case{"near", {200, 60}, 100, 4000, ""},
-          Case{"near, thrown", {200, 60}, 100, 40, "dismissed closed "},
-          Case{"up", {200, 60}, -40, 40, ""}, Case{"the content", {200, 700}, 100, 40, ""}}) {
+    for (const auto& [what, from, by, milliseconds, closes] : cases) {
         SheetStage stage;
-        stage.drag(c.from, {0, c.by}, c.milliseconds);
-        EXPECT_EQ(stage.log(), c.log) << c.what;
-        EXPECT_EQ(stage.position(), *c.log == '\0' ? 1 : 0) << c.what;
+        stage.drag({200, from}, {0, by}, milliseconds);
+        EXPECT_EQ(stage.log(), closes ? "dismissed closed " : "") << what;
+        EXPECT_EQ(stage.position(), closes ? 0 : 1) << what;
     }
     SheetStage stage;
     stage.set("stubborn", true);
@@ -98,7 +90,7 @@ TEST(Sheet, IsACardOnAWideWindow) {
     stage.window()->resize(1600, 1000);
     stage.item()->setSize({1600, 1000});
     EXPECT_TRUE(Stage::soon([&] { return stage.item("stack")->width() == 620; }));
-    EXPECT_EQ(Stage::middle(stage.item("stack")).x(), 800);
+    EXPECT_EQ(middle(stage.item("stack")).x(), 800);
 }
 
 TEST(NavigationStack, GoesForwardAndBackAndKeepsThePagesBelow) {
@@ -111,16 +103,11 @@ TEST(NavigationStack, GoesForwardAndBackAndKeepsThePagesBelow) {
         })");
     stage.set("place", 7, "first");
     EXPECT_TRUE(stage.showing("First"));
-    const auto back = {+[](Stage& s) { s.press(Qt::Key_Escape); },
-                       +[](Stage& s) { s.press(Qt::Key_Back); },
-                       +[](Stage& s) {
-                           s.click({20, 22});
-                       }};
-    for (const auto& goBack : back) {
+    for (const Qt::Key back : {Qt::Key_Escape, Qt::Key_Back, Qt::Key_unknown}) {
         QMetaObject::invokeMethod(stage.item("stack"), "go");
         EXPECT_TRUE(stage.showing("Second"));
         EXPECT_TRUE(stage.item("second")->hasActiveFocus());
-        goBack(stage);
+        back == Qt::Key_unknown ? stage.click({20, 22}) : stage.press(back);
         EXPECT_EQ(stage.get("depth", "stack"), QVariant(1));
         EXPECT_TRUE(stage.showing("First"));
         EXPECT_EQ(stage.get("place", "first"), QVariant(7));

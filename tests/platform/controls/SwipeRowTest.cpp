@@ -1,6 +1,4 @@
-#include "Stage.h"
-
-#include <gtest/gtest.h>
+#include "support/Stage.h"
 
 namespace kovamo {
 namespace {
@@ -20,21 +18,15 @@ constexpr const char* rows = R"(
     })";
 
 TEST(SwipeRow, IsPulledAsideToDelete) {
-    struct Case {
-        const char* what;
-        int by;
-        const char* log;
-        double offset;
-    };
+    const std::tuple<int, const char*, double> cases[] = {
+        {25, "", 0}, {60, "", 86}, {-200, "", 0}, {300, "delete 0", 390}};
     for (const bool mirrored : {false, true})
-        for (const Case& c :
-             {Case{"a little", 25, "", 0}, Case{"half", 60, "", 86},
-              Case{"the wrong way", -200, "", 0}, Case{"all the way", 300, "delete 0", 390}}) {
+        for (const auto& [by, log, offset] : cases) {
             Stage stage(rows);
             stage.set("mirrored", mirrored);
-            stage.drag({195, 20}, {mirrored ? c.by : -c.by, 0});
-            EXPECT_EQ(stage.log(), c.log) << c.what;
-            EXPECT_NEAR(stage.get("offset", "row0").toDouble(), c.offset, 8) << c.what;
+            stage.drag({195, 20}, {mirrored ? by : -by, 0});
+            EXPECT_EQ(stage.log(), log) << by;
+            EXPECT_NEAR(stage.get("offset", "row0").toDouble(), offset, 8) << by;
         }
 }
 

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <fstream>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 namespace {

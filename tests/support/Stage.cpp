@@ -1,22 +1,22 @@
 #include "Stage.h"
 
 #include <QQmlComponent>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 
-Stage::Stage(const char* body, bool reducedMotion) {
+Stage::Stage(const char* body, bool reducedMotion, const char* module, QObject* subject) {
     m_engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    QObject::connect(&m_engine, &QQmlEngine::warnings, [](const QList<QQmlError>& errors) {
-        for (const QQmlError& error : errors)
-            ADD_FAILURE() << error.toString().toStdString();
-    });
+    failOnWarnings(m_engine);
     QQmlComponent component(&m_engine);
-    component.setData("import QtQuick\nimport Kovamo.Controls\nimport Kovamo.Foundation\n"
-                      "Item { property string log\nComponent.onCompleted: Motion.reduced = " +
-                          QByteArray(reducedMotion ? "true" : "false") + "\n" + body + "\n}",
-                      QUrl(QStringLiteral("qrc:/stage.qml")));
-    m_root.reset(component.create());
+    const QString qml = QStringLiteral("import QtQuick; import Kovamo.Controls\n"
+                                       "import Kovamo.Foundation; import %1\n"
+                                       "Item { property QtObject subject; property string log\n"
+                                       "Component.onCompleted: Motion.reduced = %2\n%3\n}")
+                            .arg(QLatin1String(module), QVariant(reducedMotion).toString(),
+                                 QString::fromUtf8(body));
+    component.setData(qml.toUtf8(), QUrl(QStringLiteral("qrc:/stage.qml")));
+    m_root.reset(component.createWithInitialProperties(
+        {{QStringLiteral("subject"), QVariant::fromValue(subject)}}));
     auto* root = qobject_cast<QQuickItem*>(m_root.get());
     if (root == nullptr)
         qFatal("%s", qPrintable(component.errorString()));
@@ -26,10 +26,6 @@ Stage::Stage(const char* body, bool reducedMotion) {
     m_window.show();
     m_window.requestActivate();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
-}
-
-Stage::~Stage() {
-    m_root.reset();
 }
 
 QQuickItem* Stage::item(const char* name) const {

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "support/Hand.h"
+#include "Hand.h"
 
-#include <QQmlEngine>
 #include <QTest>
 #include <functional>
 #include <memory>
@@ -12,9 +11,10 @@ namespace kovamo {
 /// A window that shows a piece of QML, to be played on with real events.
 class Stage {
   public:
-    /// Shows `body`, the members of an item as large as the window, at 390 by 844.
-    explicit Stage(const char* body, bool reducedMotion = true);
-    ~Stage();
+    /// Shows `body`, the members of an item as large as the window, at 390 by 844. It may use a
+    /// further QML `module` and an object by the name of `subject`.
+    explicit Stage(const char* body, bool reducedMotion = true,
+                   const char* module = "Kovamo.Foundation", QObject* subject = nullptr);
     Q_DISABLE_COPY_MOVE(Stage)
 
     [[nodiscard]] QQuickWindow* window() { return &m_window; }
@@ -27,7 +27,6 @@ class Stage {
     [[nodiscard]] std::string log() const { return get("log").toString().toStdString(); }
 
     [[nodiscard]] QQuickItem* showing(const QString& text) { return shown(m_window, text); }
-    [[nodiscard]] static QPoint middle(const QQuickItem* item) { return kovamo::middle(item); }
     void click(const QQuickItem* item) { click(middle(item)); }
     void click(QPoint point, Qt::MouseButton button = Qt::LeftButton) {
         kovamo::click(m_window, point, button);
@@ -36,7 +35,6 @@ class Stage {
         kovamo::drag(m_window, from, by, milliseconds);
     }
     void press(Qt::Key key) { QTest::keyClick(&m_window, key); }
-    void type(const QString& text) { kovamo::type(text); }
     /// Whether `condition` comes true while the window lives on.
     [[nodiscard]] static bool soon(const std::function<bool()>& condition) {
         return QTest::qWaitFor(condition, 30000);
