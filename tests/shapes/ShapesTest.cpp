@@ -12,10 +12,6 @@
 namespace kovamo {
 namespace {
 
-static_assert(InsettableShape<GridPattern> && InsettableShape<HalfCapsule>);
-static_assert(InsettableShape<RegularPolygon> && InsettableShape<RoundedRegularPolygon>);
-static_assert(Shape<Line> && !InsettableShape<Line> && !InsettableShape<QuadCurve>);
-
 constexpr double infinity = std::numeric_limits<double>::infinity();
 const double nan = std::nan("");
 
@@ -41,16 +37,6 @@ TEST(UnitPoints, SpreadValuesEvenlyAndLeaveTheirHeights) {
     EXPECT_EQ(makeUnitPoints(std::vector{0.7}), (std::vector<PlotPoint>{{0, 0.7}}));
     EXPECT_EQ(makeUnitPoints(std::array{2.5f, -1.f, 0.1f}),
               (std::vector<PlotPoint>{{0, 2.5}, {0.5, -1}, {1, static_cast<double>(0.1f)}}));
-}
-
-TEST(Lines, JoinTheirPointsInOrder) {
-    for (const QRectF& rect : rects) {
-        const auto drawn = segments(Line{{{0, 0}, {0.25, 1}, {1, 0.5}}}.path(rect));
-        ASSERT_EQ(drawn.size(), 2U);
-        expectNear(drawn[0].p1(), {0, rect.height()});
-        expectNear(drawn[0].p2(), {rect.width() / 4, 0});
-        expectNear(drawn[1].p2(), {rect.width(), rect.height() / 2});
-    }
 }
 
 TEST(LinesAndCurves, OfOnePointAreASingleMoveAndLeaveOutPointsWithoutAPlace) {

@@ -13,10 +13,6 @@ const Color red{SystemColor::red}, green{SystemColor::green}, blue{SystemColor::
 const double nan = std::nan(""), infinity = std::numeric_limits<double>::infinity();
 const QSize size(200, 120);
 
-std::vector<QString> words(std::initializer_list<const char*> texts) {
-    return {texts.begin(), texts.end()};
-}
-
 // Readings are told in one locale's numbers.
 const bool english = (QLocale::setDefault(QLocale(QLocale::English)), true);
 
@@ -47,8 +43,8 @@ TEST(PlotScales, BringAnyValuesIntoTheUnitRange) {
 }
 
 TEST(LineCharts, ReadOutTheNearestValueWhereItIsDrawn) {
-    const auto months = words({"Jan", "Feb", "Mar", "Apr"});
-    const ChartSeries series{QStringLiteral("Balance"), {1000, nan, -500, 1234.5}, red};
+    const std::vector<QString> months{"Jan", "Feb", "Mar", "Apr"};
+    const ChartSeries series{"Balance", {1000, nan, -500, 1234.5}, red};
     const LineChartView chart{{}, series, months, LineType::line, 4};
     expectReading(chart, {0, 0}, "Jan, 1,000", SystemColor::red);
     expectReading(chart, {120, 0}, "Mar, -500", SystemColor::red);
@@ -60,20 +56,20 @@ TEST(LineCharts, ReadOutTheNearestValueWhereItIsDrawn) {
 }
 
 TEST(MultiLineCharts, ReadOutTheNearerOfTheirSeries) {
-    const ChartSeries in{QStringLiteral("In"), {0, 100, 100}, green};
-    const ChartSeries out{QStringLiteral("Out"), {0, 20}, red};
-    const auto months = words({"Jan", "Feb", "Mar"});
+    const ChartSeries in{"In", {0, 100, 100}, green};
+    const ChartSeries out{"Out", {0, 20}, red};
+    const std::vector<QString> months{"Jan", "Feb", "Mar"};
     const MultiLineChartView chart{{}, {in, out}, months, LineType::line, 4};
     expectReading(chart, {100, 10}, "In Feb, 100", SystemColor::green);
     expectReading(chart, {100, 85}, "Out Feb, 20", SystemColor::red);
     expectReading(chart, {190, 110}, "In Mar, 100", SystemColor::green);
     const LegendEntry entry = chart.legend().at(1);
-    EXPECT_EQ(entry.label, QStringLiteral("Out"));
+    EXPECT_EQ(entry.label, "Out");
     expectColor(raster(entry.swatch(), {10, 10}).pixelColor(5, 5), light(SystemColor::red));
 }
 
 TEST(BarCharts, ReadOutTheBarBesideTheFinger) {
-    BarChartView chart{{}, {QStringLiteral("Balance"), {50, 100}, blue}, words({"Jan", "Feb"}), 4};
+    BarChartView chart{{}, {"Balance", {50, 100}, blue}, {"Jan", "Feb"}, 4};
     EXPECT_EQ(read(chart, {0, 10}), "Jan, 50");
     EXPECT_EQ(read(chart, {0, 500}), "Feb, 100");
     expectColor(colorAtReading(chart, {0, 10}, {-1, 0}), light(SystemColor::blue), "inside");
@@ -87,11 +83,11 @@ TEST(BarCharts, ReadOutTheBarBesideTheFinger) {
 
 TEST(PieCharts, GiveEachSliceItsShareFromTheTopClockwise) {
     const PieChartView chart{{},
-                             {{QStringLiteral("Half"), 50, red},
-                              {QStringLiteral("None"), -20, blue},
-                              {QStringLiteral("Unknown"), nan, blue},
-                              {QStringLiteral("Quarter"), 25, green},
-                              {QStringLiteral("Rest"), 25, blue}}};
+                             {{"Half", 50, red},
+                              {"None", -20, blue},
+                              {"Unknown", nan, blue},
+                              {"Quarter", 25, green},
+                              {"Rest", 25, blue}}};
     expectReading(chart, {150, 60}, "Half, 50", SystemColor::red);
     expectReading(chart, {95, 110}, "Quarter, 25", SystemColor::green);
     expectReading(chart, {60, 20}, "Rest, 25", SystemColor::blue);

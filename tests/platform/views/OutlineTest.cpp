@@ -49,12 +49,6 @@ TEST(RoundedCorners, NeverLeaveTheRectangleWhateverTheRadius) {
     }
 }
 
-TEST(Capsules, AreRoundAtTheirShortEnds) {
-    EXPECT_FALSE(Capsule{}.path({0, 0, 10, 100}).contains({1, 1}));
-    EXPECT_TRUE(Capsule{}.path({0, 0, 10, 100}).contains({0.5, 6}));
-    EXPECT_TRUE(Capsule{}.path({0, 0, 100, 10}).contains({6, 0.5}));
-}
-
 /// A path of straight lines, a curve and a second subpath.
 QPainterPath winding() {
     QPainterPath path(QPointF(5, 5));

@@ -11,32 +11,13 @@ namespace {
 const QSize size(40, 80);
 const LinearGradient sunset{{Color{SystemColor::yellow}, Color{SystemColor::red}}};
 
-/// A key of the test's own: the environment is open.
-struct DepthKey {
-    using Value = int;
-    static const int& defaultValue() {
-        static constexpr int none = -1;
-        return none;
-    }
-};
-
-struct DepthWitness {
-    std::shared_ptr<std::vector<int>> depths = std::make_shared<std::vector<int>>();
-    void paint(QPainter&, const QRectF&, const EnvironmentValues& environment) const {
-        depths->push_back(environment.value<DepthKey>());
-    }
-};
-
-static_assert(View<Witness> && View<AnyView> && !View<Capsule> && !View<int>);
-static_assert(!Shape<Color> && !ShapeStyle<Capsule> && !EnvironmentKey<Color>);
-
 TEST(Environment, TheInnermostSettingWinsAndEndsWithWhatItEncloses) {
-    const DepthWitness witness;
-    const AnyView inner = environment<DepthKey>(witness, 2);
-    const AnyView middle = environment<DepthKey>(ZStack{{witness, inner, witness}}, 1);
-    const AnyView other = environment<ColorSchemeKey>(witness, ColorScheme::dark);
-    raster(ZStack{{witness, middle, other}}, size);
-    EXPECT_EQ(*witness.depths, (std::vector{-1, 1, 2, 1, -1}));
+    using enum ColorScheme;
+    const Witness witness;
+    const AnyView inner = environment<ColorSchemeKey>(witness, light);
+    const AnyView outer = environment<ColorSchemeKey>(ZStack{{witness, inner, witness}}, dark);
+    raster(ZStack{{witness, outer, witness}}, size);
+    EXPECT_EQ(*witness.schemes, (std::vector{light, dark, light, dark, light}));
 }
 
 TEST(Colors, FollowTheAppearanceAndTheirOpacity) {

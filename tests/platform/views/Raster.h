@@ -42,12 +42,15 @@ inline bool isPainted(const QImage& image, QRect area) {
     return image.copy(area) != blank;
 }
 
-/// A view that paints nothing and keeps the rectangles it was painted in.
+/// A view that paints nothing and keeps where, and in which appearance, it was painted.
 struct Witness {
     std::shared_ptr<std::vector<QRectF>> rects = std::make_shared<std::vector<QRectF>>();
+    std::shared_ptr<std::vector<ColorScheme>> schemes =
+        std::make_shared<std::vector<ColorScheme>>();
 
-    void paint(QPainter&, const QRectF& rect, const EnvironmentValues&) const {
+    void paint(QPainter&, const QRectF& rect, const EnvironmentValues& environment) const {
         rects->push_back(rect);
+        schemes->push_back(environment.value<ColorSchemeKey>());
     }
 };
 
