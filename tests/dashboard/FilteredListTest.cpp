@@ -3,7 +3,6 @@
 #include "support/Book.h"
 
 #include <QAbstractItemModelTester>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace kovamo {
@@ -25,14 +24,6 @@ std::string rows(const FilteredList& list) {
     return rows;
 }
 
-TEST(FilteredList, PutsDividersBetweenItsRows) {
-    Book book({{7, "2024-05-02", nullptr, "2024-05-02", false}, {100, "2020-01-01", "monthly"}});
-    FilteredList list;
-    EXPECT_EQ(rows(list), "");
-    list.setTransactionContainer(loaded(book, 2));
-    EXPECT_EQ(rows(list), "title, earning, $300, recurring | title, spending, $7.");
-}
-
 TEST(FilteredList, FollowsAnyChangeRowByRow) {
     Book book;
     FilteredList list;
@@ -51,6 +42,8 @@ TEST(FilteredList, FollowsAnyChangeRowByRow) {
         FilteredList fresh;
         fresh.setTransactionContainer(loaded(book, timeFrame));
         ASSERT_EQ(rows(list), rows(fresh)) << "after step " << step;
+        EXPECT_EQ(QString::fromStdString(rows(list)).count(u" | "),
+                  std::max(0, list.rowCount() - 1));
     }
 }
 

@@ -7,7 +7,6 @@
 #include "support/WallClock.h"
 
 #include <cmath>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace kovamo {
@@ -107,12 +106,13 @@ class RandomLedger {
         const Banner banner(context, timeFrame);
         EXPECT_EQ(banner.isShown(), !rows.empty());
         EXPECT_EQ(banner.kovamo, std::abs(sum));
-        EXPECT_EQ(banner.kovamoText, QLatin1String(sum > 0 ? "+ " : sum < 0 ? "- " : "   0"));
-        const char* mood = sum > 0 ? " positive " : sum < 0 ? " negative " : " neutral ";
-        EXPECT_TRUE(banner.infoText.contains(QLatin1String(mood)));
-        EXPECT_EQ(banner.currentGradient, sum > 0   ? banner.greenGardient
-                                          : sum < 0 ? banner.redGradient
-                                                    : banner.blueGradient);
+        const std::size_t sign = sum < 0 ? 0 : sum == 0 ? 1 : 2;
+        const char* const moods[] = {" negative ", " neutral ", " positive "};
+        const char* const signs[] = {"- ", "   0", "+ "};
+        EXPECT_EQ(banner.kovamoText, QLatin1String(signs[sign]));
+        EXPECT_TRUE(banner.infoText.contains(QLatin1String(moods[sign])));
+        const std::array gradients{banner.redGradient, banner.blueGradient, banner.greenGardient};
+        EXPECT_EQ(banner.currentGradient, gradients[sign]);
 
         const double largest = listed.empty() ? 0 : listed.front().amount;
         std::ranges::stable_sort(rows, {}, &TransactionPresentation::startDate);

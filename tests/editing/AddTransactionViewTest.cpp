@@ -3,7 +3,6 @@
 #include "support/Book.h"
 
 #include <QSignalSpy>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 namespace {
@@ -112,7 +111,6 @@ TEST(AddTransactionViewDeathTest, StopsOverWhatItCannotKeep) {
     Transaction& record = *book.all().at(0);
     record.setEndDate({});
     EXPECT_DEATH(AddTransactionView(book.context, &record), "has no endDate");
-    record.setEndDate(at("2030-01-01"));
 }
 
 } // namespace

@@ -2,8 +2,6 @@
 #include "editing/TransactionLine.h"
 #include "support/Book.h"
 
-#include <gtest/gtest.h>
-
 namespace kovamo {
 namespace {
 

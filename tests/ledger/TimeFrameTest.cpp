@@ -3,8 +3,6 @@
 #include "support/World.h"
 
 #include <fstream>
-#include <gtest/gtest.h>
-#include <iostream>
 #include <sstream>
 #include <unicode/timezone.h>
 
@@ -88,29 +86,21 @@ TEST(TimeFrame, HasTheMonthsThatTheCLibraryCountsInEveryZone) {
             if (WallClock::offset(day) != WallClock::offset(day + 24h))
                 for (auto now = day - 36h; now <= day + 60h; now += 12h)
                     moments.push_back(now);
-        int unsettled = 0;
         for (const Instant now : moments) {
             const auto found = wrong(*rules, now);
             EXPECT_EQ(found.value_or(""), "") << names[i];
-            ++(found ? compared : unsettled);
+            ++(found ? compared : disputed);
         }
-        disputed += unsettled;
-        if (unsettled > 0)
-            std::cout << names[i] << ": other rules at " << unsettled << " moments\n";
     }
-    std::cout << compared << " moments compared, " << disputed << " not\n";
     EXPECT_LT(disputed, compared / 20);
 }
 
 TEST(TimeFrame, FollowsTheCalendarOfTheLocale) {
-    const struct {
-        const char* locale;
-        const char* start;
-        const char* end;
-    } cases[] = {{"th_TH.UTF-8", "2024-06-01", "2025-05-31 23:00"},
-                 {"fa_IR.UTF-8", "2024-05-21", "2025-05-21 23:00"},
-                 {"zh_CN@calendar=chinese", "2024-05-08", "2025-04-27 23:00"},
-                 {"de_DE@calendar=unheard", "2024-06-01", "2025-05-31 23:00"}};
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"th_TH.UTF-8", "2024-06-01", "2025-05-31 23:00"},
+        {"fa_IR.UTF-8", "2024-05-21", "2025-05-21 23:00"},
+        {"zh_CN@calendar=chinese", "2024-05-08", "2025-04-27 23:00"},
+        {"de_DE@calendar=unheard", "2024-06-01", "2025-05-31 23:00"}};
     for (const auto& [locale, start, end] : cases) {
         const World world("2024-06-01 10:00", "Asia/Bangkok", locale);
         EXPECT_EQ(text(periodBounds(3).start), text(at(start))) << locale;

@@ -1,14 +1,9 @@
 #include "support/Book.h"
 
-#include <gtest/gtest.h>
 #include <random>
 
 namespace kovamo {
 namespace {
-
-Instant day(int number) {
-    return Instant(std::chrono::milliseconds(number));
-}
 
 /// A random condition with its arguments, up to three levels deep.
 QString randomCondition(std::mt19937& random, std::vector<Value>& arguments, int depth = 0) {
@@ -25,7 +20,7 @@ QString randomCondition(std::mt19937& random, std::vector<Value>& arguments, int
     case 0:
         return u"isPositive " + comparison + (below(2) ? u" YES" : u" NO");
     case 1:
-        arguments.emplace_back(day(static_cast<int>(below(5))));
+        arguments.emplace_back(Instant(std::chrono::milliseconds(below(5))));
         return u"startDate" + comparison + u"%@";
     case 2:
         arguments.emplace_back(QString(QChar(static_cast<char16_t>(u'a' + below(4)))));
@@ -46,7 +41,7 @@ TEST(Predicate, MeansTheSameToTheStoreAndToPendingRecords) {
             record.setTitle(QString(QChar(static_cast<char16_t>(u'a' + random() % 4))));
         record.setStartDate({});
         if (random() % 3)
-            record.setStartDate(day(static_cast<int>(random() % 5)));
+            record.setStartDate(Instant(std::chrono::milliseconds(random() % 5)));
         record.setIsPositive(random() % 2 == 0);
     }
     book.context.save();
@@ -63,11 +58,7 @@ TEST(Predicate, MeansTheSameToTheStoreAndToPendingRecords) {
 }
 
 TEST(PredicateDeathTest, NamesWhatItCannotMean) {
-    const struct {
-        const char* format;
-        std::vector<Value> arguments;
-        const char* message;
-    } cases[] = {
+    const std::tuple<const char*, std::vector<Value>, const char*> cases[] = {
         {"amount >", {}, "Malformed predicate: .amount >"},
         {"amount == %@", {}, "Malformed predicate"},
         {"isPositive == YES", {std::int32_t{1}}, "Malformed predicate"},
