@@ -1,5 +1,5 @@
-// Opens the app on the store of its environment, shows twelve months and all transactions, and ends.
-// What it needs at its peak is measured from outside.
+// Opens the app on the store of its environment, shows twelve months and all transactions, and
+// ends. What it needs at its peak is measured from outside.
 
 #include "RunningApp.h"
 

@@ -41,8 +41,7 @@ Cost costOf(const char* program) {
         wait4(process, &status, 0, &usage) != process || status != 0)
         qFatal("%s fails", program);
     posix_spawn_file_actions_destroy(&quiet);
-    const std::chrono::duration<double, std::milli> time =
-        std::chrono::steady_clock::now() - start;
+    const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
     return {time.count(), static_cast<double>(usage.ru_maxrss) / 1024};
 }
 
@@ -100,10 +99,9 @@ int main(int argc, char** argv) {
     kovamo::makeStore(lifetime, lifetimeLedger);
     kovamo::makeStore(empty, emptyLedger);
 
-    const auto [window, start, startOfLifetime] =
-        startsOf(std::array{Contestant{empty, KOVAMO_EMPTY_WINDOW},
-                            Contestant{empty, KOVAMO_EXECUTABLE},
-                            Contestant{lifetime, KOVAMO_EXECUTABLE}});
+    const auto [window, start, startOfLifetime] = startsOf(
+        std::array{Contestant{empty, KOVAMO_EMPTY_WINDOW}, Contestant{empty, KOVAMO_EXECUTABLE},
+                   Contestant{lifetime, KOVAMO_EXECUTABLE}});
     printRow("start to the first painted main screen", start, "ms", "an empty window", window, 1.3);
     printRow("the same with 100,000 records", startOfLifetime, "ms", "with none", start, 1.15);
     const double more = peakOf(lifetime) - peakOf(empty);

@@ -22,7 +22,8 @@ ZStack StackedAreaChartStyle::makeBody(const ChartStyleConfiguration& configurat
                 heights[i] += rows[i][part];
         std::vector<PlotPoint> top = makeUnitPoints(heights);
         areas.layers.emplace_back(
-            FilledShape{AreaChart{lineType, top, bottom}, colors[static_cast<std::size_t>(part) % colors.size()]});
+            FilledShape{AreaChart{lineType, top, bottom},
+                        colors[static_cast<std::size_t>(part) % colors.size()]});
         bottom = std::move(top);
     }
     return areas;

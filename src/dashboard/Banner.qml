@@ -38,6 +38,7 @@ Item {
             Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
             color: SystemColors.white
+            fits: true
             font: TextStyles.headline
             // White on the yellow of the card's top needs an edge.
             style: Text.Raised

@@ -61,7 +61,9 @@ Column {
 
                     Accessible.ignored: true
                     anchors.fill: parent
+                    anchors.margins: Metrics.step
                     color: choice.chosen ? SystemColors.label : SystemColors.gray
+                    fits: true
                     horizontalAlignment: Text.AlignHCenter
                     markup: choice.modelData.label
                     opacity: tap.pressed ? 0.35 : 1

@@ -26,6 +26,9 @@ Row {
             required property int index
 
             hoverEnabled: true
+            implicitHeight: implicitWidth
+            // Five of them fit, however large the text beside them is.
+            implicitWidth: 44
             opacity: 1
             padding: 8
             text: index === 0 ? "1 star" : "%1 stars".arg(index + 1)

@@ -58,6 +58,7 @@ T.Popup {
         }
         PlainText {
             id: title
+            fits: true
             font: TextStyles.headline
             horizontalAlignment: Text.AlignHCenter
             text: ReviewController.stars > 0 ? "Thank you!" : "Enjoying Kovamo?"

@@ -40,9 +40,10 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.accent
         font: TextStyles.headline
-        fontSizeMode: Text.HorizontalFit
-        minimumPointSize: TextStyles.footnote.pointSize / 2
+        fits: true
+        height: image.height
         text: button.text
+        verticalAlignment: Text.AlignVCenter
     }
 
     FocusRing {

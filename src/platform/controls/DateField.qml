@@ -51,6 +51,7 @@ Column {
             anchors.left: parent.left
             anchors.right: pill.left
             anchors.verticalCenter: parent.verticalCenter
+            fits: true
             text: field.label
         }
         Rectangle {
@@ -62,7 +63,7 @@ Column {
             height: day.implicitHeight + Metrics.step * 2
             opacity: tap.pressed ? 0.5 : 1
             radius: 6
-            width: day.implicitWidth + Metrics.step * 5
+            width: Math.min(parent.width * 0.7, day.implicitWidth + Metrics.step * 5)
 
             PlainText {
                 id: day
@@ -70,7 +71,9 @@ Column {
                 Accessible.ignored: true
                 anchors.centerIn: parent
                 color: field.unfolded ? SystemColors.accent : SystemColors.label
+                fits: true
                 text: month.momentText
+                width: Math.min(implicitWidth, pill.parent.width * 0.7 - Metrics.step * 5)
             }
         }
 

@@ -29,6 +29,7 @@ Column {
             anchors.leftMargin: Metrics.step * 3
             anchors.right: buttons.left
             anchors.verticalCenter: parent.verticalCenter
+            fits: true
             font: TextStyles.headline
             text: grid.calendar.title
         }
@@ -61,9 +62,8 @@ Column {
 
                 color: SystemColors.secondaryLabel
                 font: TextStyles.footnote
-                fontSizeMode: Text.HorizontalFit
+                fits: true
                 horizontalAlignment: Text.AlignHCenter
-                minimumPointSize: TextStyles.footnote.pointSize / 2
                 text: modelData
                 width: grid.cellWidth
             }

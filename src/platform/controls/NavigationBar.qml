@@ -43,6 +43,7 @@ Item {
         Accessible.ignored: text === ""
         Accessible.role: Accessible.Heading
         anchors.centerIn: parent
+        fits: true
         font: TextStyles.headline
         text: bar.title
         width: Math.min(implicitWidth, bar.width - 2 * bar.side)

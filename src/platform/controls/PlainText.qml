@@ -3,12 +3,17 @@ import Kovamo.Foundation
 
 /*! One line of text, shown as it is written: the user's words are never taken for markup. */
 Text {
+    /*! Whether a text that is too wide is made smaller, down to half a footnote, before it is cut. */
+    property bool fits: false
+
     Accessible.name: text
     Accessible.role: Accessible.StaticText
     color: SystemColors.label
     elide: Text.ElideRight
     font: TextStyles.body
+    fontSizeMode: fits ? Text.HorizontalFit : Text.FixedSize
     horizontalAlignment: Text.AlignLeft
     maximumLineCount: 1
+    minimumPointSize: TextStyles.footnote.pointSize / 2
     textFormat: Text.PlainText
 }

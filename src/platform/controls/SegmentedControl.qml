@@ -92,9 +92,8 @@ Focusable {
                     Accessible.ignored: true
                     anchors.fill: parent
                     font: segment.chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
-                    fontSizeMode: Text.HorizontalFit
+                    fits: true
                     horizontalAlignment: Text.AlignHCenter
-                    minimumPointSize: TextStyles.footnote.pointSize / 2
                     opacity: tap.pressed && !segment.chosen ? 0.4 : 1
                     text: segment.modelData
                     verticalAlignment: Text.AlignVCenter

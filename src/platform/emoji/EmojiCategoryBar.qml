@@ -68,9 +68,8 @@ Item {
                     Accessible.ignored: true
                     anchors.centerIn: parent
                     font: TextStyles.emoji
-                    fontSizeMode: Text.HorizontalFit
+                    fits: true
                     horizontalAlignment: Text.AlignHCenter
-                    minimumPointSize: TextStyles.footnote.pointSize / 2
                     opacity: tap.pressed ? 0.35 : 1
                     text: tab.modelData.symbol
                     width: parent.width - Metrics.step * 2
