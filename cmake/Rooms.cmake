@@ -15,10 +15,10 @@ function(kovamo_room name)
     target_link_libraries(kovamo_${name} PUBLIC kovamo_options ${ROOM_LINKS})
 endfunction()
 
-# kovamo_qml_room(name URI Kovamo.Name SOURCES … QML … SINGLETONS … RESOURCES … IMPORTS … LINKS …):
+# kovamo_qml_room(name URI Kovamo.Name SOURCES … QML … SINGLETONS … RESOURCES … DEPENDENCIES … LINKS …):
 # a room that is a QML module too.
 function(kovamo_qml_room name)
-    cmake_parse_arguments(ROOM "" "URI" "SOURCES;QML;SINGLETONS;RESOURCES;IMPORTS;LINKS" ${ARGN})
+    cmake_parse_arguments(ROOM "" "URI" "SOURCES;QML;SINGLETONS;RESOURCES;DEPENDENCIES;LINKS" ${ARGN})
     set_source_files_properties(${ROOM_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
     qt_add_library(kovamo_${name} STATIC)
     string(REPLACE "." "/" path ${ROOM_URI})
@@ -35,7 +35,7 @@ function(kovamo_qml_room name)
         OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/${path}
         IMPORT_PATH ${PROJECT_BINARY_DIR}/qml
         ${compiled}
-        IMPORTS ${ROOM_IMPORTS}
+        DEPENDENCIES ${ROOM_DEPENDENCIES}
         SOURCES ${ROOM_SOURCES}
         QML_FILES ${ROOM_QML} ${ROOM_SINGLETONS}
         RESOURCES ${ROOM_RESOURCES})
