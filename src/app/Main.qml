@@ -2,7 +2,6 @@ import QtQuick
 import Kovamo.App
 import Kovamo.Controls
 import Kovamo.Dashboard
-import Kovamo.Engagement
 import Kovamo.Foundation
 
 /*! The app's one window. */
@@ -43,48 +42,32 @@ Window {
         onActivated: Qt.quit()
     }
     Loader {
+        active: window.root.onboardingFinished
         anchors.fill: parent
-        focus: true
-        sourceComponent: window.root.onboardingFinished ? mainScreen : onboarding
-    }
-    // The toolkit's Loader does not make bound components.
-    // qmllint disable unqualified
-    Component {
-        id: onboarding
+        focus: active
 
-        OnboardingView {
-            onboarding: window.root.onboarding
-        }
-    }
-    Component {
-        id: mainScreen
-
-        ContentView {
+        // The toolkit's Loader does not make bound components.
+        // qmllint disable unqualified
+        sourceComponent: ContentView {
             content: window.root.content
             digits: window.root.digits
         }
+        // qmllint enable unqualified
     }
-    Component {
-        id: reviewPrompt
-
-        ReviewPrompt {
-            sheetPresented: window.root.content.showAddTransaction || window.root.content.showTransactions
-        }
-    }
-    // qmllint enable unqualified
-    // What does not show at first is made after the first frame.
-    Connections {
-        id: firstFrame
-
-        function onFrameSwapped() {
-            firstFrame.enabled = false;
-        }
-
-        target: window
-    }
+    // Most starts do without the onboarding: its file is read where it shows.
     Loader {
-        active: !firstFrame.enabled
-        asynchronous: true
-        sourceComponent: reviewPrompt
+        active: !window.root.onboardingFinished
+        anchors.fill: parent
+        focus: active
+
+        Component.onCompleted: setSource("../Engagement/OnboardingView.qml", {
+                "onboarding": window.root.onboarding
+            })
+    }
+    LateLoader {
+        file: Qt.resolvedUrl("RatingPrompt.qml")
+        properties: ({
+                "root": window.root
+            })
     }
 }

@@ -1,12 +1,10 @@
 import QtQuick
 import QtQml
 import Kovamo.Controls
-import Kovamo.Editing
 import Kovamo.Dashboard
 import Kovamo.Foundation
 
-// What sheets and stacks make of a component here they make elsewhere, where the toolkit refuses
-// bound ones.
+// The list makes its header where the toolkit refuses bound components.
 // qmllint disable unqualified
 
 /*! The main screen: balance, chart and list of the selected time frame. */
@@ -129,44 +127,18 @@ FocusScope {
 
         onPicked: value => screen.content.select(value)
     }
-    // What does not show at first is made after the first frame, or when it is wanted.
-    Connections {
-        id: firstFrame
-
-        function onFrameSwapped() {
-            firstFrame.enabled = false;
-        }
-
-        target: screen.Window.window
+    LateLoader {
+        file: Qt.resolvedUrl("AddTransactionSheet.qml")
+        properties: ({
+                "content": screen.content
+            })
+        wanted: screen.content.showAddTransaction
     }
-    Loader {
-        active: screen.content.showAddTransaction || !firstFrame.enabled
-        asynchronous: !screen.content.showAddTransaction
-
-        sourceComponent: Sheet {
-            presented: screen.content.showAddTransaction
-
-            onDismissed: screen.content.showAddTransaction = false
-
-            NavigationStack {
-                initialPage: AddTransactionView {
-                    transaction: screen.content.addForm
-                }
-            }
-        }
-    }
-    Loader {
-        active: screen.content.showTransactions || !firstFrame.enabled
-        asynchronous: !screen.content.showTransactions
-
-        sourceComponent: Sheet {
-            presented: screen.content.showTransactions
-
-            onDismissed: screen.content.showTransactions = false
-
-            TransactionsView {
-                transactions: screen.content.allTransactions
-            }
-        }
+    LateLoader {
+        file: Qt.resolvedUrl("TransactionsSheet.qml")
+        properties: ({
+                "content": screen.content
+            })
+        wanted: screen.content.showTransactions
     }
 }

@@ -1,0 +1,24 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Dashboard
+import Kovamo.Editing
+
+// The stack makes its page where the toolkit refuses bound components.
+// qmllint disable unqualified
+
+/*! The form for a new transaction, on a sheet. */
+Sheet {
+    id: sheet
+
+    required property ContentState content
+
+    presented: content.showAddTransaction
+
+    onDismissed: content.showAddTransaction = false
+
+    NavigationStack {
+        initialPage: AddTransactionView {
+            transaction: sheet.content.addForm
+        }
+    }
+}

@@ -1,0 +1,22 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Dashboard
+import Kovamo.Editing
+
+// The sheet makes its content where the toolkit refuses bound components.
+// qmllint disable unqualified
+
+/*! All transactions, on a sheet. */
+Sheet {
+    id: sheet
+
+    required property ContentState content
+
+    presented: content.showTransactions
+
+    onDismissed: content.showTransactions = false
+
+    TransactionsView {
+        transactions: sheet.content.allTransactions
+    }
+}

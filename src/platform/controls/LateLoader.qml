@@ -1,0 +1,32 @@
+import QtQuick
+
+/*! Makes what does not show at first: after the window's first frame and beside the user's work, or
+    at once when it is wanted. Until then not even its file is read, nor what that imports. */
+Loader {
+    id: loader
+
+    /*! The file of what is made, and the values of its required properties. */
+    required property url file
+    required property var properties
+    /*! Whether it is to be there now. */
+    property bool wanted: false
+
+    function load() {
+        // What is on its way without haste is begun anew, for it cannot be hurried.
+        source = "";
+        asynchronous = !wanted;
+        setSource(file, properties);
+    }
+
+    onWantedChanged: if (wanted && status !== Loader.Ready)
+        load()
+
+    Connections {
+        enabled: loader.status === Loader.Null
+        target: loader.Window.window
+
+        function onFrameSwapped() {
+            loader.load();
+        }
+    }
+}
