@@ -1,7 +1,6 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Editing
-import Kovamo.Foundation
 
 // What sheets and stacks make of a component here they make elsewhere, where the toolkit refuses
 // bound ones.

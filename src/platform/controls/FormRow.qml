@@ -1,6 +1,5 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
 
 /*! One row of a form's section: at least 44 high, a hairline above it unless it is the first. Its
     items stand between its margins, in the height that it is told. */

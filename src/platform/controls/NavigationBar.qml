@@ -1,5 +1,4 @@
 import QtQuick
-import Kovamo.Foundation
 
 /*! The bar at the top of a screen: its title in the middle, buttons at both ends. */
 Item {
