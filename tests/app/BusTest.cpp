@@ -95,6 +95,7 @@ class Bus : public QObject, public testing::Test {
             list.beginStructure();
             list >> found.emplace_back().service >> found.back().path;
         }
+        list.endArray();
         return found;
     }
     QRect area(const Element& element) const {
@@ -104,6 +105,7 @@ class Bus : public QObject, public testing::Test {
         int x = 0, y = 0, width = 0, height = 0;
         four.beginStructure();
         four >> x >> y >> width >> height;
+        four.endStructure();
         return {x, y, width, height};
     }
 
