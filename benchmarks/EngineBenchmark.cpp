@@ -172,7 +172,7 @@ void printRows(const Medians& median, Apps& apps) {
     const double change = median["change the time frame"], plain = median["plain loop"];
     printRow("change of time frame, 100,000 stored, 8,700 in it", change,
              "plain SQLite loop over the same queries", plain, 1);
-    printRow("the same", change, "one display frame", displayFrame, 1);
+    printRow("the same change of time frame", change, "one display frame", displayFrame, 1);
     const double smallest = median["frame of 1,000, 10,000 stored"];
     for (const char* larger :
          {"frame of 1,000, 100,000 stored", "frame of 1,000, 1,000,000 stored"})

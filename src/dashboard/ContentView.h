@@ -19,11 +19,15 @@ struct TimeFrameChoice {
     QML_VALUE_TYPE(timeFrameChoice)
     Q_PROPERTY(QString label MEMBER label)
     Q_PROPERTY(int value MEMBER value)
+    Q_PROPERTY(QString shortcut READ shortcut)
 
   public:
     /// Bold markup.
     QString label;
     TimeFrame value = 1;
+
+    /// The keys that choose it.
+    [[nodiscard]] QString shortcut() const { return QStringLiteral("Ctrl+%1").arg(value); }
 };
 
 /// The main screen: the selected time frame and what is shown for it. Whatever changes the records

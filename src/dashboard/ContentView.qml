@@ -1,5 +1,4 @@
 import QtQuick
-import QtQml
 import Kovamo.Controls
 import Kovamo.Dashboard
 import Kovamo.Foundation
@@ -30,17 +29,6 @@ FocusScope {
         sequence: "Ctrl+L"
 
         onActivated: screen.content.showTransactions = true
-    }
-    Instantiator {
-        model: screen.content.timeFrames
-
-        Shortcut {
-            required property timeFrameChoice modelData
-
-            sequence: "Ctrl+" + modelData.value
-
-            onActivated: screen.content.select(modelData.value)
-        }
     }
     NavigationBar {
         id: bar

@@ -51,6 +51,11 @@ Column {
 
                 Accessible.onPressAction: pick()
 
+                Shortcut {
+                    sequence: choice.modelData.shortcut
+
+                    onActivated: choice.pick()
+                }
                 Divider {
                     height: 50
                     vertical: true
