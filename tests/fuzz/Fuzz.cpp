@@ -1,6 +1,7 @@
 #include "Fuzz.h"
 
 #include "platform/foundation/FatalError.h"
+#include "platform/foundation/MainQueue.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -38,3 +39,10 @@ QByteArray readFile(const QString& path) {
 }
 
 } // namespace kovamo
+
+// For targets without one of their own.
+extern "C" [[gnu::weak]] int LLVMFuzzerInitialize(int*, char***) {
+    // There is no event loop that would run what is put off.
+    kovamo::MainQueue::setScheduler([](auto, const auto&) {});
+    return 0;
+}

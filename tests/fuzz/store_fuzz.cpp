@@ -2,6 +2,7 @@
 // answered, more than once in the same words and without a write.
 
 #include "Fuzz.h"
+#include "editing/TransactionLine.h"
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
 #include "platform/objectstore/Store.h"
@@ -28,8 +29,9 @@ QStringList shown(const QString& path) {
         }
         const TransactionsView screen(context);
         for (int row = 0; row < screen.rowCount(); ++row)
-            for (const auto& [role, name] : screen.roleNames().asKeyValueRange())
-                words += screen.data(screen.index(row), role).toString();
+            words += screen.data(screen.index(row), TransactionsView::LineRole)
+                         .value<TransactionLine>()
+                         .sentence;
     } catch (const Stopped&) {
         words += QStringLiteral("stopped");
     }

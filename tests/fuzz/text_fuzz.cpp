@@ -2,6 +2,7 @@
 // is what the next start reads and says.
 
 #include "Fuzz.h"
+#include "editing/TransactionLine.h"
 #include "editing/TransactionsView.h"
 #include "platform/objectstore/Store.h"
 
@@ -21,10 +22,15 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     QString emoji(static_cast<qsizetype>(rest.size() / 2), Qt::Uninitialized);
     std::memcpy(emoji.data(), rest.data(), rest.size() / 2 * 2);
 
-    const QString money = signedAmount(isPositive, amount);
-    check(money.size() > 2 && money.startsWith(isPositive ? u"+ " : u"- "), "there is an amount");
-    check(transactionSentence(title, isPositive, amount, true).startsWith(title),
-          "a title is a title");
+    TransactionPresentation transaction;
+    transaction.title = title;
+    transaction.emoji = emoji;
+    transaction.amount = amount;
+    transaction.isPositive = isPositive;
+    const TransactionLine line(transaction);
+    check(line.amount.size() > 2 && line.amount.startsWith(isPositive ? u"+ " : u"- "),
+          "there is an amount");
+    check(line.sentence.startsWith(title), "a title is a title");
 
     static Store store(scratchPath(QStringLiteral("store.sqlite")), Transaction::entity());
     ManagedObjectContext context(store, Transaction::entity());
