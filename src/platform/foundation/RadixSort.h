@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <concepts>
 #include <cstdint>
 #include <functional>
 #include <numeric>
@@ -17,8 +18,8 @@ template<std::signed_integral T>
 }
 
 /// Sorts `values` by an unsigned key of each, smallest first; equal keys keep their order. Takes
-/// a pass for each byte in which the keys differ, so a tenth of the time of a comparing sort for
-/// the thousands of records of a long ledger.
+/// a pass for each byte in which the keys differ and compares nothing, which pays for thousands of
+/// records.
 template<typename T, typename Key>
 void radixSort(std::vector<T>& values, Key key) {
     std::vector<T> sorted(values.size());
