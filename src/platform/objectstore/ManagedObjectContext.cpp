@@ -6,7 +6,6 @@
 #include "platform/foundation/MainQueue.h"
 
 #include <QPointer>
-#include <algorithm>
 #include <utility>
 
 namespace kovamo {
@@ -41,6 +40,23 @@ std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request
     if (request.fetchLimit)
         ids.resize(std::min(ids.size(), static_cast<std::size_t>(*request.fetchLimit)));
     return ids;
+}
+
+std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchRequest& request) {
+    const std::vector<ObjectID> ids = fetchIDs(request);
+    std::vector<ManagedObject*> objects;
+    objects.reserve(ids.size());
+    std::unique_ptr<SQLite::Transaction> reading;
+    for (const ObjectID id : ids) {
+        ManagedObject& found = object(id);
+        if (found.m_values.empty() || found.m_isStale) {
+            if (!reading)
+                reading = m_store.readTransaction();
+            read(found);
+        }
+        objects.push_back(&found);
+    }
+    return objects;
 }
 
 std::size_t ManagedObjectContext::count(const FetchRequest& request) {

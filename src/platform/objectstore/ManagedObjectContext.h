@@ -5,6 +5,7 @@
 
 #include <QObject>
 #include <QTimer>
+#include <algorithm>
 #include <unordered_map>
 
 namespace kovamo {
@@ -46,15 +47,10 @@ class ManagedObjectContext : public QObject {
     /// cannot be read; an unknown entity or attribute is a fatal error that names it.
     template<typename T>
     [[nodiscard]] std::vector<T*> fetch(const FetchRequest& request) {
-        const std::vector<ObjectID> ids = fetchIDs(request);
-        std::vector<T*> objects;
-        objects.reserve(ids.size());
-        for (const ObjectID id : ids) {
-            ManagedObject& found = object(id);
-            if (found.m_values.empty() || found.m_isStale)
-                read(found);
-            objects.push_back(static_cast<T*>(&found));
-        }
+        const std::vector<ManagedObject*> found = fetchObjects(request);
+        std::vector<T*> objects(found.size());
+        std::ranges::transform(found, objects.begin(),
+                               [](ManagedObject* object) { return static_cast<T*>(object); });
         return objects;
     }
 
@@ -91,6 +87,7 @@ class ManagedObjectContext : public QObject {
   private:
     friend class ManagedObject;
 
+    [[nodiscard]] std::vector<ManagedObject*> fetchObjects(const FetchRequest& request);
     ManagedObject& insertObject();
     void read(const ManagedObject& object);
     void didUpdate(ManagedObject& object);

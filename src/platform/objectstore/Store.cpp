@@ -7,7 +7,6 @@
 #include "platform/foundation/RadixSort.h"
 
 #include <QFileInfo>
-#include <SQLiteCpp/Transaction.h>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -255,6 +254,10 @@ std::vector<Value> Store::read(ObjectID id) {
         }
         return values;
     });
+}
+
+std::unique_ptr<SQLite::Transaction> Store::readTransaction() {
+    return guarded(m_path, [&] { return std::make_unique<SQLite::Transaction>(*m_database); });
 }
 
 QString Store::shared(const QString& text) {

@@ -8,6 +8,7 @@
 #include <QSet>
 #include <QStringList>
 #include <SQLiteCpp/Database.h>
+#include <SQLiteCpp/Transaction.h>
 #include <optional>
 
 namespace kovamo {
@@ -35,6 +36,11 @@ class Store {
 
     /// The values of a record; empty when there is none.
     [[nodiscard]] std::vector<Value> read(ObjectID id);
+
+    /// What is read until the transaction goes is of one state of the file, which is locked and
+    /// looked at once and not for each record. Requires that nothing is written meanwhile and that
+    /// no other such transaction lasts.
+    [[nodiscard]] std::unique_ptr<SQLite::Transaction> readTransaction();
 
     /// An identity that no stored record has: one above the largest.
     [[nodiscard]] ObjectID unusedID() const;
