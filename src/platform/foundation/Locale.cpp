@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <cstring>
 #include <memory>
+#include <string>
 #include <unicode/datefmt.h>
 #include <unicode/numfmt.h>
 
@@ -23,17 +24,22 @@ bool hasFormatters(const icu::Locale& locale) {
     return U_SUCCESS(status);
 }
 
+/// Whether a locale is of no more than a language, a script and a country, which ICU has
+/// formatters for whatever they are.
+bool isPlain(const icu::Locale& locale) {
+    constexpr std::size_t longest = std::char_traits<char>::length("yue_Hant_419");
+    return std::strlen(locale.getName()) <= longest && std::strlen(locale.getVariant()) == 0 &&
+           std::strchr(locale.getName(), '@') == nullptr;
+}
+
 /// The locale of a name as somebody wrote it: of its language and country alone where ICU has no
 /// formatters for what follows them ("@calendar=…").
 icu::Locale named(const char* name) {
-    const icu::Locale locale = icu::Locale::createCanonical(name);
-    if (locale.isBogus())
-        return posixLocale();
-    const bool isPlain =
-        std::strlen(locale.getVariant()) == 0 && std::strchr(locale.getName(), '@') == nullptr;
-    return isPlain || hasFormatters(locale)
-               ? locale
-               : icu::Locale(locale.getLanguage(), locale.getCountry());
+    const icu::Locale whole = icu::Locale::createCanonical(name);
+    for (const icu::Locale& locale : {whole, icu::Locale(whole.getLanguage(), whole.getCountry())})
+        if (!locale.isBogus() && (isPlain(locale) || hasFormatters(locale)))
+            return locale;
+    return posixLocale();
 }
 
 icu::Locale localeOf(const char* category) {
