@@ -27,34 +27,27 @@ Column {
         Repeater {
             model: picker.choices
 
-            Focusable {
+            Pressable {
                 id: choice
 
                 required property int index
                 required property timeFrameChoice modelData
                 readonly property bool chosen: modelData.value === picker.selected
 
-                function pick() {
-                    picker.picked(modelData.value);
-                }
-
                 Accessible.checkable: true
                 Accessible.checked: chosen
-                Accessible.name: caption.text
                 Accessible.role: Accessible.PageTab
-                Keys.onEnterPressed: pick()
-                Keys.onReturnPressed: pick()
-                Keys.onSpacePressed: pick()
-                activeFocusOnTab: true
                 height: Math.max(50, caption.implicitHeight + Metrics.padding)
+                opacity: 1
+                text: caption.text
                 width: row.width / picker.choices.length
 
-                Accessible.onPressAction: pick()
+                onClicked: picker.picked(modelData.value)
 
                 Shortcut {
                     sequence: choice.modelData.shortcut
 
-                    onActivated: choice.pick()
+                    onActivated: choice.clicked()
                 }
                 Divider {
                     height: 50
@@ -71,15 +64,8 @@ Column {
                     fits: true
                     horizontalAlignment: Text.AlignHCenter
                     markup: choice.modelData.label
-                    opacity: tap.pressed ? 0.35 : 1
+                    opacity: choice.pressed ? 0.35 : 1
                     verticalAlignment: Text.AlignVCenter
-                }
-                TapHandler {
-                    id: tap
-
-                    gesturePolicy: TapHandler.ReleaseWithinBounds
-
-                    onTapped: choice.pick()
                 }
                 FocusRing {
                     distance: -2

@@ -78,31 +78,31 @@ FocusScope {
         anchors.margins: 40
         anchors.right: parent.right
         focus: true
-        font: TextStyles.headline
+        implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight + 2 * Metrics.padding)
         opacity: 1
-        padding: Metrics.padding
         text: view.onboarding.caption
 
-        background: Item {
-            GradientPanel {
-                anchors.fill: parent
-                anchors.margins: -shadowExtent
-                leftColor: button.mirrored ? SystemColors.purple : SystemColors.blue
-                rightColor: button.mirrored ? SystemColors.blue : SystemColors.purple
-            }
-            FocusRing {
-                visible: button.visualFocus
-                radius: 22
-            }
+        onClicked: view.onboarding.next()
+
+        GradientPanel {
+            anchors.fill: parent
+            anchors.margins: -shadowExtent
+            leftColor: button.LayoutMirroring.enabled ? SystemColors.purple : SystemColors.blue
+            rightColor: button.LayoutMirroring.enabled ? SystemColors.blue : SystemColors.purple
         }
-        contentItem: PlainText {
+        FocusRing {
+            visible: button.visualFocus
+            radius: 22
+        }
+        PlainText {
+            id: caption
+
+            Accessible.ignored: true
+            anchors.centerIn: parent
             color: SystemColors.white
-            font: button.font
-            horizontalAlignment: Text.AlignHCenter
+            font: TextStyles.headline
             opacity: button.pressed ? 0.6 : 1
             text: button.text
         }
-
-        onClicked: view.onboarding.next()
     }
 }

@@ -22,28 +22,31 @@ Row {
         delegate: Pressable {
             id: star
 
-            readonly property bool candidate: hovered || visualFocus || pressed
+            readonly property bool candidate: hover.hovered || visualFocus || pressed
             required property int index
 
-            hoverEnabled: true
             implicitHeight: implicitWidth
             // Five of them fit, however large the text beside them is.
             implicitWidth: 44
             opacity: 1
-            padding: 8
             text: index === 0 ? "1 star" : "%1 stars".arg(index + 1)
 
-            contentItem: RatingStar {
-                color: SystemColors.accent
-                filled: star.index < Math.max(stars.given, stars.pointedAt)
-            }
-
-            Keys.onLeftPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-            Keys.onRightPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onLeftPressed: star.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+            Keys.onRightPressed: star.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
             // The star that was left says so after the next has said that it is pointed at.
             onCandidateChanged: if (candidate || stars.pointedAt === index + 1)
                 stars.pointedAt = candidate ? index + 1 : 0
             onClicked: stars.chosen(index + 1)
+
+            RatingStar {
+                anchors.fill: parent
+                anchors.margins: 8
+                color: SystemColors.accent
+                filled: star.index < Math.max(stars.given, stars.pointedAt)
+            }
+            HoverHandler {
+                id: hover
+            }
         }
     }
 }

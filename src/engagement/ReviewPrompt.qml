@@ -80,14 +80,14 @@ T.Popup {
             text: ReviewController.stars > 0 ? "Done" : "Not Now"
             width: parent.width
 
-            contentItem: PlainText {
-                color: SystemColors.accent
-                horizontalAlignment: Text.AlignHCenter
-                text: notNow.text
-                verticalAlignment: Text.AlignVCenter
-            }
-
             onClicked: ReviewController.dismiss()
+
+            PlainText {
+                Accessible.ignored: true
+                anchors.centerIn: parent
+                color: SystemColors.accent
+                text: notNow.text
+            }
         }
     }
     Binding {

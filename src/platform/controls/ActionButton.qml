@@ -7,14 +7,14 @@ Pressable {
     id: button
 
     property string symbol
+    readonly property real side: Metrics.padding + Metrics.step
 
     implicitHeight: Math.max(50, caption.implicitHeight + Metrics.padding * 2)
-    implicitWidth: leftPadding + image.width + Metrics.step * 2 + caption.implicitWidth + rightPadding
-    leftPadding: Metrics.padding + Metrics.step
-    rightPadding: Metrics.padding + Metrics.step
+    implicitWidth: image.width + Metrics.step * 2 + caption.implicitWidth + 2 * side
     width: Math.min(implicitWidth, parent ? parent.width - 2 * Metrics.padding : Infinity)
 
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         color: SystemColors.fill
         radius: height / 2
     }
@@ -22,7 +22,7 @@ Pressable {
         id: image
 
         anchors.left: parent.left
-        anchors.leftMargin: button.leftPadding
+        anchors.leftMargin: button.side
         anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.accent
         height: 18
@@ -36,7 +36,7 @@ Pressable {
         anchors.left: image.right
         anchors.leftMargin: Metrics.step * 2
         anchors.right: parent.right
-        anchors.rightMargin: button.rightPadding
+        anchors.rightMargin: button.side
         anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.accent
         font: TextStyles.headline

@@ -21,7 +21,7 @@ Pressable {
         color: SystemColors.accent
         height: Metrics.symbolSize
         width: Metrics.symbolSize
-        name: button.mirrored ? "chevron.right" : "chevron.left"
+        name: button.LayoutMirroring.enabled ? "chevron.right" : "chevron.left"
     }
     PlainText {
         id: label

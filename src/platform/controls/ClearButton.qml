@@ -4,9 +4,9 @@ import Kovamo.Foundation
 
 /*! Empties the field it stands in, which keeps the focus. */
 Pressable {
-    focusPolicy: Qt.NoFocus
     implicitHeight: 28
     implicitWidth: 32
+    takesFocus: false
     text: qsTr("Clear")
 
     SystemImage {

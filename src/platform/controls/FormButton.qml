@@ -8,34 +8,35 @@ Pressable {
     readonly property bool isFirst: Positioner.isFirstItem
     readonly property bool isLast: Positioner.isLastItem
 
-    leftPadding: Metrics.padding
+    implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight)
     opacity: 1
-    rightPadding: Metrics.padding
     width: parent ? parent.width : implicitWidth
 
-    background: Item {
-        RowHighlight {
-            anchors.fill: parent
-            roundedBottom: button.isLast
-            roundedTop: button.isFirst
-            visible: button.pressed
-        }
-        Divider {
-            anchors.left: parent.left
-            anchors.leftMargin: Metrics.padding
-            anchors.right: parent.right
-            visible: !button.isFirst
-        }
+    RowHighlight {
+        anchors.fill: parent
+        roundedBottom: button.isLast
+        roundedTop: button.isFirst
+        visible: button.pressed
     }
-    contentItem: PlainText {
+    Divider {
+        anchors.left: parent.left
+        anchors.leftMargin: Metrics.padding
+        anchors.right: parent.right
+        visible: !button.isFirst
+    }
+    PlainText {
+        id: caption
+
         Accessible.ignored: true
+        anchors.fill: parent
+        anchors.leftMargin: Metrics.padding
+        anchors.rightMargin: Metrics.padding
         color: button.enabled ? SystemColors.accent : SystemColors.tertiaryLabel
         font: TextStyles.headline
         horizontalAlignment: Text.AlignHCenter
         text: button.text
         verticalAlignment: Text.AlignVCenter
     }
-
     FocusRing {
         visible: button.visualFocus
         distance: -2

@@ -40,13 +40,13 @@ Column {
 
             BarButton {
                 enabled: grid.calendar.canGoBack
-                symbol: mirrored ? "chevron.right" : "chevron.left"
+                symbol: LayoutMirroring.enabled ? "chevron.right" : "chevron.left"
                 text: qsTr("Previous month")
 
                 onClicked: grid.calendar.previousMonth()
             }
             BarButton {
-                symbol: mirrored ? "chevron.left" : "chevron.right"
+                symbol: LayoutMirroring.enabled ? "chevron.left" : "chevron.right"
                 text: qsTr("Next month")
 
                 onClicked: grid.calendar.nextMonth()

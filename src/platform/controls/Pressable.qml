@@ -1,24 +1,30 @@
 import QtQuick
-import QtQuick.Templates as T
+import Kovamo.Controls
 
 /*! What every button shares: it can be pressed by finger, mouse, Space and Enter, and says so. */
-T.AbstractButton {
+Focusable {
     id: pressable
 
+    property string text
     /*! What the button does, where its name alone does not tell. */
     property string description
+    /*! Whether the keyboard comes here, also after a press. */
+    property bool takesFocus: true
+    readonly property alias pressed: tap.pressed
+
+    /*! The user pressed it and let it go on it. */
+    signal clicked
 
     Accessible.description: description
     Accessible.name: text
     Accessible.role: Accessible.Button
     Keys.onEnterPressed: pressable.clicked()
     Keys.onReturnPressed: pressable.clicked()
-    focusPolicy: Qt.StrongFocus
-    implicitHeight: Math.max(Metrics.rowHeight, implicitContentHeight + topPadding + bottomPadding)
-    implicitWidth: Math.max(Metrics.rowHeight, implicitContentWidth + leftPadding + rightPadding)
+    Keys.onSpacePressed: pressable.clicked()
+    activeFocusOnTab: takesFocus
+    implicitHeight: Metrics.rowHeight
+    implicitWidth: Metrics.rowHeight
     opacity: pressed ? 0.35 : 1
-
-    Accessible.onPressAction: pressable.clicked()
 
     Behavior on opacity  {
         enabled: !pressable.pressed
@@ -26,5 +32,17 @@ T.AbstractButton {
         NumberAnimation {
             duration: Motion.duration(200)
         }
+    }
+
+    Accessible.onPressAction: pressable.clicked()
+
+    TapHandler {
+        id: tap
+
+        gesturePolicy: TapHandler.ReleaseWithinBounds
+
+        onPressedChanged: if (pressed && pressable.takesFocus)
+            pressable.forceActiveFocus(Qt.MouseFocusReason)
+        onTapped: pressable.clicked()
     }
 }

@@ -67,19 +67,21 @@ FocusScope {
 
         anchors.right: parent.right
         anchors.verticalCenter: searchRow.verticalCenter
-        leftPadding: Metrics.step * 3
-        rightPadding: Metrics.padding
+        implicitWidth: cancelText.implicitWidth + Metrics.step * 3 + Metrics.padding
         text: qsTr("Cancel")
-
-        contentItem: PlainText {
-            Accessible.ignored: true
-            color: SystemColors.accent
-            text: cancel.text
-            verticalAlignment: Text.AlignVCenter
-        }
 
         onClicked: panel.cancelled()
 
+        PlainText {
+            id: cancelText
+
+            Accessible.ignored: true
+            anchors.left: parent.left
+            anchors.leftMargin: Metrics.step * 3
+            anchors.verticalCenter: parent.verticalCenter
+            color: SystemColors.accent
+            text: cancel.text
+        }
         FocusRing {
             distance: -2
             visible: cancel.visualFocus
