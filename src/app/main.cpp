@@ -5,6 +5,7 @@
 #include "SampleData.h"
 #include "SoleInstance.h"
 #include "platform/controls/AccessibleItems.h"
+#include "platform/controls/EmojiText.h"
 #include "platform/foundation/DesktopSettings.h"
 #include "platform/foundation/UserDefaults.h"
 
@@ -43,7 +44,7 @@ void chooseRenderer() {
 void preferColourEmoji() {
     QFont font = QGuiApplication::font();
     const QStringList families{QFontInfo(font).family(), QStringLiteral("Noto Sans"),
-                               QStringLiteral("Noto Color Emoji")};
+                               kovamo::emojiFontFamily()};
     // Text fields have a font of their own and are not asked for its families.
     QFont::insertSubstitutions(font.family(), families);
     font.setFamilies(families);

@@ -13,13 +13,14 @@ Item {
 
     implicitHeight: Math.max(Metrics.rowHeight, titleText.implicitHeight + Metrics.step * 4)
 
-    PlainText {
+    EmojiText {
         id: emojiText
 
-        Accessible.ignored: true
         anchors.left: parent.left
         anchors.leftMargin: Metrics.padding
         anchors.verticalCenter: parent.verticalCenter
+        color: SystemColors.label
+        font: TextStyles.body
         text: row.line.emoji
         width: Math.min(implicitWidth, row.width / 4)
     }

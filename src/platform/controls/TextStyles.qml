@@ -15,11 +15,8 @@ QtObject {
     readonly property font body: styles.style(17, Font.Normal)
     readonly property font subheadline: styles.style(15, Font.Normal)
     readonly property font footnote: styles.style(13, Font.Normal)
-    /*! For emoji alone: some locales' own fonts have a few of them in black. */
-    readonly property font emoji: Qt.font({
-            "family": "Noto Color Emoji",
-            "pointSize": 21 * styles.scale
-        })
+    /*! The emoji to choose from. */
+    readonly property font emoji: styles.style(28, Font.Normal)
 
     /*! The system's font at `points` layout points. */
     function style(points: real, weight: int): font {

@@ -30,7 +30,7 @@ Item {
         Repeater {
             model: bar.categories
 
-            Focusable {
+            Pressable {
                 id: tab
 
                 required property int index
@@ -38,16 +38,12 @@ Item {
 
                 Accessible.checkable: true
                 Accessible.checked: bar.category === index
-                Accessible.name: modelData.title
                 Accessible.role: Accessible.PageTab
-                Keys.onEnterPressed: bar.picked(index)
-                Keys.onReturnPressed: bar.picked(index)
-                Keys.onSpacePressed: bar.picked(index)
-                activeFocusOnTab: true
-                height: Metrics.rowHeight
+                opacity: 1
+                text: modelData.title
                 width: row.width / bar.categories.length
 
-                Accessible.onPressAction: bar.picked(index)
+                onClicked: bar.picked(index)
 
                 Rectangle {
                     anchors.centerIn: parent
@@ -57,22 +53,12 @@ Item {
                     visible: tab.Accessible.checked
                     width: Math.min(parent.width, parent.height)
                 }
-                TapHandler {
-                    id: tap
-
-                    gesturePolicy: TapHandler.ReleaseWithinBounds
-
-                    onTapped: bar.picked(tab.index)
-                }
-                PlainText {
-                    Accessible.ignored: true
+                EmojiText {
                     anchors.centerIn: parent
                     font: TextStyles.emoji
-                    fits: true
-                    horizontalAlignment: Text.AlignHCenter
-                    opacity: tap.pressed ? 0.35 : 1
+                    opacity: tab.pressed ? 0.35 : 1
+                    scale: Math.min(1, (parent.width - Metrics.step * 2) / width)
                     text: tab.modelData.symbol
-                    width: parent.width - Metrics.step * 2
                 }
                 FocusRing {
                     distance: -1

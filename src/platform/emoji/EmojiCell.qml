@@ -25,14 +25,10 @@ Item {
         radius: Metrics.cardRadius
         visible: tap.pressed
     }
-    PlainText {
-        Accessible.ignored: true
-        anchors.fill: parent
-        elide: Text.ElideNone
+    EmojiText {
+        anchors.centerIn: parent
         font: TextStyles.emoji
-        horizontalAlignment: Text.AlignHCenter
         text: cell.emoji
-        verticalAlignment: Text.AlignVCenter
     }
     TapHandler {
         id: tap

@@ -1,0 +1,97 @@
+#include "EmojiText.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QPixmapCache>
+#include <QQuickWindow>
+#include <cmath>
+#include <unicode/uchar.h>
+
+namespace kovamo {
+
+namespace {
+
+/// Wider than any list has room for; a pasted text may be of any length.
+constexpr int widest = 1000;
+
+/// Digits and other letters of ASCII are the beginnings of emoji, but none themselves.
+bool beginsWithEmoji(const QString& text) {
+    const char32_t first = text.isEmpty() ? 0 : text.toUcs4().constFirst();
+    return first > 0x7f && u_hasBinaryProperty(static_cast<UChar32>(first), UCHAR_EMOJI);
+}
+
+QFont fontFor(const QString& text, QFont font) {
+    if (beginsWithEmoji(text))
+        font.setFamilies(QStringList(emojiFontFamily()) + font.families());
+    return font;
+}
+
+/// `text` on a transparent ground, `pixelRatio` pixels a point.
+QPixmap drawn(const QString& text, const QFont& font, const QColor& color, qreal pixelRatio) {
+    const QFontMetricsF metrics(font);
+    const QSizeF size(std::ceil(metrics.horizontalAdvance(text)), std::ceil(metrics.height()));
+    QPixmap picture((size * pixelRatio).toSize());
+    if (picture.isNull())
+        return picture;
+    picture.setDevicePixelRatio(pixelRatio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setFont(font);
+    painter.setPen(color);
+    painter.drawText(QPointF(0, metrics.ascent()), text);
+    return picture;
+}
+
+} // namespace
+
+QString emojiFontFamily() {
+    return QStringLiteral("Noto Color Emoji");
+}
+
+EmojiText::EmojiText(QQuickItem* parent) : QQuickPaintedItem(parent) {
+    for (const auto signal :
+         {&EmojiText::textChanged, &EmojiText::fontChanged, &EmojiText::colorChanged})
+        connect(this, signal, this, &EmojiText::draw);
+}
+
+void EmojiText::componentComplete() {
+    QQuickPaintedItem::componentComplete();
+    draw();
+}
+
+void EmojiText::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickPaintedItem::itemChange(change, data);
+    if (change == ItemSceneChange || change == ItemDevicePixelRatioHasChanged)
+        draw();
+}
+
+void EmojiText::draw() {
+    if (!isComponentComplete() || !window())
+        return;
+    const QFont font = fontFor(m_text, m_font);
+    const qreal pixelRatio = window()->effectiveDevicePixelRatio();
+    const QString key = QStringLiteral("%1 %2 %3 ").arg(m_color.rgba()).arg(pixelRatio) +
+                        font.key() + u' ' + m_text;
+    if (!QPixmapCache::find(key, &m_picture)) {
+        m_picture = drawn(QFontMetricsF(font).elidedText(m_text, Qt::ElideRight, widest), font,
+                          m_color, pixelRatio);
+        QPixmapCache::insert(key, m_picture);
+    }
+    setImplicitSize(m_picture.deviceIndependentSize().width(),
+                    m_picture.deviceIndependentSize().height());
+    update();
+}
+
+void EmojiText::paint(QPainter* painter) {
+    if (width() >= implicitWidth()) {
+        painter->drawPixmap(QPointF(), m_picture);
+        return;
+    }
+    painter->setFont(fontFor(m_text, m_font));
+    painter->setPen(m_color);
+    const QFontMetricsF metrics(painter->font());
+    painter->drawText(QPointF(0, metrics.ascent()),
+                      metrics.elidedText(m_text, Qt::ElideRight, width()));
+}
+
+} // namespace kovamo
