@@ -43,14 +43,14 @@ Window {
     }
     Loader {
         active: window.root.onboardingFinished
-        anchors.fill: parent
         focus: active
 
         // The toolkit's Loader does not make bound components.
         // qmllint disable unqualified
         sourceComponent: ContentView {
             content: window.root.content
-            digits: window.root.digits
+            height: window.height
+            width: window.width
         }
         // qmllint enable unqualified
     }

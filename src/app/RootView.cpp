@@ -1,7 +1,6 @@
 #include "RootView.h"
 
 #include "engagement/ReviewHandler.h"
-#include "platform/foundation/Formatters.h"
 #include "platform/foundation/Locale.h"
 #include "platform/foundation/UserDefaults.h"
 
@@ -26,13 +25,6 @@ QString RootView::onboardingFinishedKey() {
 
 bool RootView::isMirrored() {
     return dateLocale().isRightToLeft();
-}
-
-QStringList RootView::digits() {
-    QStringList digits;
-    for (int digit = 0; digit <= 9; ++digit)
-        digits.append(digitText(digit));
-    return digits;
 }
 
 void RootView::finishOnboarding() {

@@ -4,7 +4,6 @@
 #include "engagement/OnboardingView.h"
 
 #include <QObject>
-#include <QStringList>
 #include <QtQml/qqmlregistration.h>
 
 namespace kovamo {
@@ -18,7 +17,6 @@ class RootView : public QObject {
     Q_PROPERTY(bool onboardingFinished READ onboardingFinished NOTIFY onboardingFinishedChanged)
     Q_PROPERTY(kovamo::OnboardingView* onboarding READ onboarding CONSTANT)
     Q_PROPERTY(kovamo::ContentView* content READ content CONSTANT)
-    Q_PROPERTY(QList<QString> digits READ digits CONSTANT)
     Q_PROPERTY(bool mirrored READ isMirrored CONSTANT)
 
   public:
@@ -34,9 +32,6 @@ class RootView : public QObject {
 
     /// Whether the user's language runs from right to left, and the screens with it.
     [[nodiscard]] static bool isMirrored();
-
-    /// The digits 0 to 9 as the user's locale writes them.
-    [[nodiscard]] static QStringList digits();
 
   Q_SIGNALS:
     void onboardingFinishedChanged();

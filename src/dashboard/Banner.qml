@@ -9,7 +9,6 @@ Item {
     id: card
 
     required property banner balance
-    required property list<string> digits
 
     implicitHeight: balance.isShown ? Math.max(100, words.implicitHeight + Metrics.step * 4) + Metrics.padding * 2 : 0
     visible: balance.isShown
@@ -59,7 +58,7 @@ Item {
             RollingNumber {
                 Accessible.ignored: true
                 color: SystemColors.white
-                digits: card.digits
+                duration: Motion.duration(250)
                 font: TextStyles.bold(TextStyles.largeTitle)
                 text: card.balance.numberText
             }
