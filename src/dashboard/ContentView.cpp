@@ -67,6 +67,7 @@ void ContentView::layOutLater() {
 void ContentView::layOut() {
     if (!std::exchange(m_needsLayout, false))
         return;
+    m_isLaidOut = true;
     m_hasTransactions = isAnythingStored();
     m_banner = Banner(m_viewContext, m_selectedTimeFrame);
     m_chart = TransactionChart(m_viewContext, m_selectedTimeFrame);

@@ -45,6 +45,7 @@ class ContentView : public QObject {
                    showTransactionsChanged)
     Q_PROPERTY(bool hasTransactions READ hasTransactions NOTIFY laidOut)
     Q_PROPERTY(bool hasPeriod READ hasPeriod NOTIFY laidOut)
+    Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY laidOut)
     Q_PROPERTY(kovamo::Banner banner READ banner NOTIFY laidOut)
     Q_PROPERTY(kovamo::TransactionChart chart READ chart NOTIFY laidOut)
     Q_PROPERTY(kovamo::FilteredList* filteredList READ filteredList CONSTANT)
@@ -74,6 +75,9 @@ class ContentView : public QObject {
     [[nodiscard]] bool hasPeriod() const {
         return m_hasTransactions && m_filteredList.rowCount() > 0;
     }
+
+    /// Whether the way to record something is shown in their place.
+    [[nodiscard]] bool isEmpty() const { return m_isLaidOut && !hasPeriod(); }
 
     [[nodiscard]] const Banner& banner() const { return m_banner; }
     [[nodiscard]] const TransactionChart& chart() const { return m_chart; }
@@ -109,6 +113,7 @@ class ContentView : public QObject {
     bool m_showTransactions = false;
     bool m_hasTransactions = false;
     bool m_needsLayout = false;
+    bool m_isLaidOut = false;
     TransactionContainer m_transactionContainer;
     Banner m_banner;
     TransactionChart m_chart;

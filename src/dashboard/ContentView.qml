@@ -3,16 +3,11 @@ import Kovamo.Controls
 import Kovamo.Dashboard
 import Kovamo.Foundation
 
-// The list makes its header where the toolkit refuses bound components.
-// qmllint disable unqualified
-
 /*! The main screen: balance, chart and list of the selected time frame. */
 FocusScope {
     id: screen
 
     required property ContentState content
-    required property list<string> digits
-    readonly property real contentWidth: Math.min(width, 700)
 
     Component.onCompleted: content.appear()
 
@@ -50,58 +45,29 @@ FocusScope {
             onClicked: screen.content.showAddTransaction = true
         }
     }
-    Banner {
-        id: banner
-
+    LateLoader {
+        anchors.bottom: picker.top
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.top: bar.bottom
-        balance: screen.content.banner
-        digits: screen.digits
-        visible: screen.content.hasPeriod
-        width: screen.contentWidth
+        file: Qt.resolvedUrl("PeriodView.qml")
+        properties: ({
+                "content": screen.content
+            })
+        visible: wanted
+        wanted: screen.content.hasPeriod
+        width: Math.min(parent.width, 700)
     }
-    Divider {
-        id: divider
-
-        anchors.horizontalCenter: parent.horizontalCenter
-        anchors.top: banner.bottom
-        visible: screen.content.hasPeriod
-        width: screen.contentWidth
-    }
-    ListView {
-        id: list
-
-        Accessible.name: qsTr("Transactions of the time frame")
-        Accessible.role: Accessible.List
+    LateLoader {
         anchors.bottom: picker.top
         anchors.horizontalCenter: parent.horizontalCenter
-        anchors.top: divider.bottom
-        clip: true
-        model: screen.content.filteredList
-        reuseItems: true
-        visible: screen.content.hasPeriod
-        width: screen.contentWidth
-
-        delegate: FilteredListRow {
-            width: list.width
-        }
-        header: TransactionChart {
-            chart: screen.content.chart
-            width: list.width
-
-            // A header that grows stays above the top of the view unless it is asked in.
-            onHeightChanged: list.positionViewAtBeginning()
-        }
-    }
-    ActionButton {
-        anchors.bottom: picker.top
-        anchors.bottomMargin: Metrics.padding
-        anchors.horizontalCenter: parent.horizontalCenter
-        symbol: "plus"
-        text: qsTr("🙄 create a transaction")
-        visible: !screen.content.hasPeriod
-
-        onClicked: screen.content.showAddTransaction = true
+        anchors.top: bar.bottom
+        file: Qt.resolvedUrl("CreateButton.qml")
+        properties: ({
+                "content": screen.content
+            })
+        visible: wanted
+        wanted: screen.content.isEmpty
+        width: Math.min(parent.width, 700)
     }
     TimeFramePicker {
         id: picker

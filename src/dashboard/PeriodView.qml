@@ -1,0 +1,53 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Dashboard
+
+// The list makes its header where the toolkit refuses bound components.
+// qmllint disable unqualified
+
+/*! What is shown of a time frame that something falls into: balance, chart and list. */
+Item {
+    id: period
+
+    required property ContentState content
+    /*! Rows are made once all above them has its height. */
+    property bool isComplete: false
+
+    Component.onCompleted: isComplete = true
+
+    Banner {
+        id: banner
+
+        balance: period.content.banner
+        width: period.width
+    }
+    Divider {
+        id: divider
+
+        anchors.top: banner.bottom
+        width: period.width
+    }
+    ListView {
+        id: list
+
+        Accessible.name: qsTr("Transactions of the time frame")
+        Accessible.role: Accessible.List
+        anchors.bottom: parent.bottom
+        anchors.top: divider.bottom
+        clip: true
+        model: period.isComplete ? period.content.filteredList : null
+        reuseItems: true
+        width: period.width
+
+        delegate: FilteredListRow {
+            width: list.width
+        }
+        header: TransactionChart {
+            chart: period.content.chart
+            width: list.width
+
+            // A header that grows stays above the top of the view unless it is asked in.
+            onHeightChanged: list.positionViewAtBeginning()
+        }
+    }
+}
