@@ -1,5 +1,7 @@
-// Loaded into a program of the toolkit's before it starts (LD_PRELOAD): ends it when its first
-// window has shown its first frame.
+// Loaded into a program of the toolkit's before it starts (LD_PRELOAD): when its first window has
+// shown its first frame, it says so by a byte to the file that was opened for that, and ends.
+
+#include "FirstFrame.h"
 
 #include <QCoreApplication>
 #include <QEvent>
@@ -16,7 +18,8 @@ class FirstFrame : public QObject {
         auto* window = qobject_cast<QQuickWindow*>(object);
         if (window && event->type() == QEvent::Show)
             connect(
-                window, &QQuickWindow::frameSwapped, window, [] { _exit(0); },
+                window, &QQuickWindow::frameSwapped, window,
+                [] { _exit(write(kovamo::firstFrameFile, "", 1) == 1 ? 0 : 1); },
                 Qt::DirectConnection);
         return false;
     }
@@ -24,6 +27,8 @@ class FirstFrame : public QObject {
 
 void watch() {
     QCoreApplication* app = QCoreApplication::instance();
+    // What the program starts is not measured.
+    qunsetenv("LD_PRELOAD");
     app->installEventFilter(new FirstFrame(app));
 }
 

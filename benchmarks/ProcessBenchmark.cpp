@@ -1,19 +1,22 @@
 // What whole processes of the app cost: the time from the start of the process to the first painted
-// main screen, on a display of its own where it can have one, and the memory at its peak. Prints
-// the rows of the table as tab-separated fields.
+// main screen, on a desktop of its own, and the memory at its peak. Prints the rows of the table as
+// tab-separated fields.
 
+#include "FirstFrame.h"
 #include "RunningApp.h"
+#include "support/Server.h"
 
 #include <QGuiApplication>
-#include <QProcess>
 #include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
 #include <fcntl.h>
+#include <optional>
 #include <spawn.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
+#include <unistd.h>
 #include <vector>
 
 namespace {
@@ -25,28 +28,50 @@ constexpr kovamo::Ledger emptyLedger{};
 constexpr kovamo::Ledger yearLedger{200, 200, 0};
 constexpr double memoryGoal = 24;
 
-/// What a process costs: milliseconds on the clock, and mebibytes of memory at its peak.
-struct Cost {
-    double milliseconds;
-    double mebibytes;
+/// A program that was started.
+class Process {
+  public:
+    /// Its file `to` is this process's `from`.
+    Process(const char* program, int from, int to) {
+        std::array<char*, 2> arguments{const_cast<char*>(program), nullptr};
+        posix_spawn_file_actions_t files;
+        posix_spawn_file_actions_init(&files);
+        posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+        posix_spawn_file_actions_adddup2(&files, from, to);
+        if (posix_spawn(&m_process, program, &files, nullptr, arguments.data(), environ) != 0)
+            qFatal("%s cannot be started", program);
+        posix_spawn_file_actions_destroy(&files);
+    }
+
+    /// Waits for its end; returns its peak memory in mebibytes.
+    [[nodiscard]] double peak() const {
+        int status = 1;
+        rusage usage{};
+        if (wait4(m_process, &status, 0, &usage) != m_process || status != 0)
+            qFatal("a process failed");
+        return static_cast<double>(usage.ru_maxrss) / 1024;
+    }
+
+  private:
+    pid_t m_process = 0;
 };
 
-/// From the start of `program` to its end.
-Cost costOf(const char* program) {
-    std::array<char*, 2> arguments{const_cast<char*>(program), nullptr};
-    posix_spawn_file_actions_t quiet;
-    posix_spawn_file_actions_init(&quiet);
-    posix_spawn_file_actions_addopen(&quiet, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+/// Milliseconds from the start of `program` to its first frame.
+double timeToFirstFrame(const char* program) {
+    std::array<int, 2> frame{};
+    if (pipe2(frame.data(), O_CLOEXEC) != 0)
+        qFatal("no pipe");
     const auto start = std::chrono::steady_clock::now();
-    pid_t process = 0;
-    int status = 1;
-    rusage usage{};
-    if (posix_spawn(&process, program, &quiet, nullptr, arguments.data(), environ) != 0 ||
-        wait4(process, &status, 0, &usage) != process || status != 0)
-        qFatal("%s fails", program);
-    posix_spawn_file_actions_destroy(&quiet);
+    const Process process(program, frame[1], kovamo::firstFrameFile);
+    close(frame[1]);
+    char byte = 0;
+    const bool isShown = read(frame[0], &byte, 1) == 1;
     const std::chrono::duration<double, std::milli> time = std::chrono::steady_clock::now() - start;
-    return {time.count(), static_cast<double>(usage.ru_maxrss) / 1024};
+    close(frame[0]);
+    if (!isShown)
+        qFatal("%s shows no frame", program);
+    static_cast<void>(process.peak());
+    return time.count();
 }
 
 double median(std::vector<double> values) {
@@ -68,7 +93,7 @@ std::array<double, n> startsOf(const std::array<Contestant, n>& contestants) {
     for (int round = -1; round < rounds; ++round)
         for (std::size_t i = 0; i < n; ++i) {
             qputenv("XDG_DATA_HOME", contestants[i].folder.path().toLocal8Bit());
-            const double time = costOf(contestants[i].program).milliseconds;
+            const double time = timeToFirstFrame(contestants[i].program);
             // What the first round reads from the disk stays in memory.
             if (round >= 0)
                 times[i].push_back(time);
@@ -79,40 +104,55 @@ std::array<double, n> startsOf(const std::array<Contestant, n>& contestants) {
     return medians;
 }
 
-/// An X server without a screen to look at, and windows that go there. Where there is none to be
-/// had, windows stay off the screen.
-class XServer {
-  public:
-    XServer() {
-        // The server writes the number that it found free to its standard output.
-        m_server.start(QStringLiteral("Xvfb"), {QStringLiteral("-displayfd"), QStringLiteral("1"),
-                                                QStringLiteral("-screen"), QStringLiteral("0"),
-                                                QStringLiteral("1280x1024x24")});
-        if (!m_server.waitForStarted() || !m_server.waitForReadyRead())
-            return;
-        qputenv("DISPLAY", ':' + m_server.readLine().trimmed());
-        qputenv("QT_QPA_PLATFORM", "xcb");
-        m_name = "on X";
-    }
-    ~XServer() {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        m_server.terminate();
-        m_server.waitForFinished();
-    }
-    Q_DISABLE_COPY_MOVE(XServer)
+/// A session's bus that starts no service of its own accord.
+constexpr const char* busConfiguration = R"(<busconfig>
+  <type>session</type>
+  <listen>unix:tmpdir=/tmp</listen>
+  <policy context="default">
+    <allow send_destination="*" eavesdrop="true"/>
+    <allow eavesdrop="true"/>
+    <allow own="*"/>
+  </policy>
+</busconfig>
+)";
 
-    [[nodiscard]] const char* name() const { return m_name; }
+/// A desktop without a screen to look at: a bus for the session, and a display for the windows.
+/// Without a bus, a program would wait for one to be started, and a display that starts afresh
+/// when its last window closes would let the next one wait.
+class Desktop {
+  public:
+    Desktop() {
+        QFile configuration(m_configuration);
+        if (!configuration.open(QIODevice::WriteOnly) || configuration.write(busConfiguration) < 0)
+            qFatal("no configuration for the bus");
+        configuration.close();
+        const kovamo::Server& bus =
+            m_bus.emplace(QStringLiteral("dbus-daemon"),
+                          QStringList{QStringLiteral("--config-file"), m_configuration,
+                                      QStringLiteral("--print-address")});
+        qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address.toLatin1());
+        qputenv("DISPLAY", ':' + m_display.address.toLatin1());
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        qputenv("XDG_RUNTIME_DIR", m_folder.path().toLocal8Bit());
+    }
+    ~Desktop() { qputenv("QT_QPA_PLATFORM", "offscreen"); }
+    Q_DISABLE_COPY_MOVE(Desktop)
 
   private:
-    QProcess m_server;
-    const char* m_name = "off the screen";
+    QTemporaryDir m_folder;
+    QString m_configuration = m_folder.filePath(QStringLiteral("bus.conf"));
+    std::optional<kovamo::Server> m_bus;
+    kovamo::Server m_display{QStringLiteral("Xvfb"),
+                             {QStringLiteral("-noreset"), QStringLiteral("-displayfd"),
+                              QStringLiteral("1"), QStringLiteral("-screen"), QStringLiteral("0"),
+                              QStringLiteral("1280x1024x24")}};
 };
 
 double peakOf(const QTemporaryDir& folder) {
     qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
     std::vector<double> peaks;
     for (int round = 0; round < 5; ++round)
-        peaks.push_back(costOf(KOVAMO_OPEN_SCREENS).mebibytes);
+        peaks.push_back(Process(KOVAMO_OPEN_SCREENS, STDERR_FILENO, STDERR_FILENO).peak());
     return median(peaks);
 }
 
@@ -134,13 +174,12 @@ int main(int argc, char** argv) {
     kovamo::makeStore(empty, emptyLedger);
 
     {
-        const XServer server;
+        const Desktop desktop;
         const auto [window, start, startOfYear, startOfLifetime] = startsOf(std::array{
             Contestant{empty, KOVAMO_EMPTY_WINDOW}, Contestant{empty, KOVAMO_EXECUTABLE},
             Contestant{year, KOVAMO_EXECUTABLE}, Contestant{lifetime, KOVAMO_EXECUTABLE}});
-        const QByteArray what =
-            QByteArrayLiteral("start to the first painted main screen, ") + server.name();
-        printRow(what.constData(), start, "ms", "an empty window", window, 1.3);
+        printRow("start to the first painted main screen", start, "ms", "an empty window", window,
+                 1.3);
         printRow("start with 100,000 records", startOfLifetime, "ms", "with none", start, 1.15);
         printRow("start with 100,000 records, both with a full screen", startOfLifetime, "ms",
                  "with 200", startOfYear, 1.15);

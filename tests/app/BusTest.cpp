@@ -1,9 +1,9 @@
+#include "support/Server.h"
 #include "support/World.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusReply>
-#include <QProcess>
 #include <QRect>
 #include <QSet>
 #include <QTest>
@@ -15,23 +15,6 @@ namespace {
 struct Element {
     QString service;
     QDBusObjectPath path;
-};
-
-/// A program that says by its first line what it is reached by.
-class Server : public QProcess {
-  public:
-    Server(const QString& program, const QStringList& arguments) {
-        start(program, arguments);
-        while (!canReadLine())
-            if (!waitForReadyRead(30000))
-                return;
-        address = QString::fromUtf8(readLine().trimmed());
-    }
-    ~Server() override {
-        kill();
-        waitForFinished();
-    }
-    QString address;
 };
 
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QProcess>
+
+namespace kovamo {
+
+/// A program that says by its first line what it is reached by, for as long as this lives.
+class Server : public QProcess {
+  public:
+    Server(const QString& program, const QStringList& arguments) {
+        start(program, arguments);
+        while (!canReadLine())
+            if (!waitForReadyRead(30000))
+                return;
+        address = QString::fromUtf8(readLine().trimmed());
+    }
+    ~Server() override {
+        kill();
+        waitForFinished();
+    }
+
+    /// What it said; empty where it could not be started.
+    QString address;
+};
+
+} // namespace kovamo
