@@ -13,6 +13,7 @@ Sheet {
     required property ContentState content
 
     presented: content.showAddTransaction
+    title: content.addForm ? content.addForm.navigationTitle : ""
 
     onDismissed: content.showAddTransaction = false
 

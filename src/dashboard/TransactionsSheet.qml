@@ -13,6 +13,7 @@ Sheet {
     required property ContentState content
 
     presented: content.showTransactions
+    title: qsTr("Transactions")
 
     onDismissed: content.showTransactions = false
 

@@ -104,6 +104,7 @@ GroupedForm {
     }
     Sheet {
         presented: form.choosesEmoji
+        title: qsTr("Emoji")
 
         onDismissed: form.choosesEmoji = false
 

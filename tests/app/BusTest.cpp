@@ -97,7 +97,7 @@ class Bus : public QObject, public testing::Test {
     QList<Element> read(const Element& parent, QStringList* complaints = nullptr) const {
         static const QSet<QString> interactive{"push button", "radio button", "check box",
                                                "text",        "page tab",     "list item",
-                                               "chart",       "heading"};
+                                               "chart",       "heading",      "dialog"};
         QList<Element> found;
         QRect before;
         for (const Element& child : children(parent)) {

@@ -10,6 +10,8 @@ Item {
 
     /*! The owner's flag. The sheet never sets it. */
     property bool presented: false
+    /*! What the sheet is for, for those who listen. */
+    required property string title
     /*! What the sheet shows. */
     default property Component contentComponent
     property color color: SystemColors.groupedBackground
@@ -85,5 +87,10 @@ Item {
 
         T.Overlay.modal: Item {
         }
+    }
+    Binding {
+        property: "name"
+        target: popup.contentItem.parent.Accessible
+        value: sheet.title
     }
 }

@@ -9,7 +9,7 @@ constexpr const char* sheet = R"(
     BarButton { objectName: 'button'; symbol: 'plus'; focus: true }
     SwipeRow { y: 500; width: 390; onClicked: log += 'behind ' }
     Sheet {
-        objectName: 'sheet'; presented: flag
+        objectName: 'sheet'; presented: flag; title: 'Sheet'
         onDismissed: { log += 'dismissed '; flag = stubborn; }
         onClosed: log += 'closed '
         NavigationStack {
