@@ -2,31 +2,28 @@ import QtQuick
 import Kovamo.Foundation
 
 /*! A scrolling form of sections on the grouped background. The field that has the focus stays in
-    sight, above the on-screen keyboard too. */
+    sight, also when the form becomes lower. */
 FocusScope {
     id: form
 
     property string navigationTitle
     default property alias sections: column.data
     readonly property Item focusedItem: Window.activeFocusItem
-    readonly property real keyboardTop: InputMethod.visible && Window.window ? InputMethod.keyboardRectangle.y : Infinity
 
     /*! Scrolls as little as needed to show the focused item. */
     function showFocused() {
         if (!form.activeFocus || form.focusedItem === null)
             return;
         const area = form.mapFromItem(form.focusedItem, 0, 0, form.focusedItem.width, form.focusedItem.height);
-        const bottom = flick.height - flick.bottomMargin;
         if (area.y < 0)
             flick.contentY += area.y - Metrics.padding;
-        else if (area.y + area.height > bottom)
-            flick.contentY += area.y + area.height - bottom + Metrics.padding;
+        else if (area.y + area.height > flick.height)
+            flick.contentY += area.y + area.height - flick.height + Metrics.padding;
         flick.returnToBounds();
     }
 
     onFocusedItemChanged: settling.restart()
     onHeightChanged: settling.restart()
-    onKeyboardTopChanged: settling.restart()
 
     // Rows find their places first.
     Timer {
@@ -44,7 +41,6 @@ FocusScope {
         id: flick
 
         anchors.fill: parent
-        bottomMargin: Math.max(0, form.mapToItem(null, 0, form.height).y - form.keyboardTop)
         boundsBehavior: Flickable.DragAndOvershootBounds
         clip: true
         contentHeight: column.height

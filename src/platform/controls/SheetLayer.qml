@@ -13,6 +13,9 @@ FocusScope {
     property real position: 0
     readonly property bool wide: width >= 700
     readonly property bool floating: wide && height >= 600
+    /*! The bottom of the open card, and the top of the on-screen keyboard. */
+    readonly property real cardBottom: floating ? (height + card.height) / 2 : height
+    property real keyboardTop: InputMethod.visible && InputMethod.keyboardRectangle.height > 0 ? InputMethod.keyboardRectangle.y : Infinity
     readonly property real travel: floating ? (height + card.height) / 2 : card.height
 
     signal dismissed
@@ -88,7 +91,8 @@ FocusScope {
         Item {
             id: slot
 
-            anchors.bottomMargin: layer.floating ? Metrics.cardRadius : 0
+            // What the card shows ends above the on-screen keyboard.
+            anchors.bottomMargin: Math.max(layer.floating ? Metrics.cardRadius : 0, layer.cardBottom - layer.keyboardTop)
             anchors.fill: parent
         }
         Item {

@@ -10,7 +10,6 @@ FocusScope {
 
     /*! What is searched for. */
     property alias query: rows.query
-    readonly property real keyboardTop: InputMethod.visible && Window.window ? InputMethod.keyboardRectangle.y : Infinity
 
     /*! The user chose an emoji. */
     signal picked(string emoji)
@@ -95,7 +94,7 @@ FocusScope {
         anchors.right: parent.right
         anchors.top: searchRow.bottom
         anchors.topMargin: Metrics.step
-        bottomMargin: Metrics.step * 2 + Math.max(0, panel.mapToItem(null, 0, grid.y + grid.height).y - panel.keyboardTop)
+        bottomMargin: Metrics.step * 2
         focus: true
         rows: rows
 

@@ -17,6 +17,8 @@ constexpr const char* sheet = R"(
             initialPage: GroupedForm {
                 objectName: 'page'; navigationTitle: 'First'
                 FormTextField { objectName: 'field'; focus: true }
+                Item { width: 1; height: 200 }
+                FormTextField { objectName: 'last' }
             }
         }
     })";
@@ -51,6 +53,25 @@ TEST(Sheet, LeavesNothingToWhatIsBehind) {
     for (int tabs = 0; tabs < 4; ++tabs) {
         stage.press(Qt::Key_Tab);
         EXPECT_TRUE(stage.item("stack")->isAncestorOf(stage.window()->activeFocusItem()));
+    }
+}
+
+TEST(Sheet, EndsAboveTheKeyboardWithTheFieldInSight) {
+    SheetStage stage;
+    QQuickItem* layer = stage.item("page");
+    while (!layer->property("keyboardTop").isValid())
+        layer = layer->parentItem();
+    const auto bottom = [&](const char* name) {
+        const QQuickItem* item = stage.item(name);
+        return item->mapToScene({0, item->height()}).y();
+    };
+    EXPECT_EQ(bottom("page"), 844);
+    stage.item("last")->forceActiveFocus();
+    for (const double top : {500.0, 300.0, 250.0}) {
+        layer->setProperty("keyboardTop", top);
+        EXPECT_EQ(bottom("page"), top);
+        EXPECT_TRUE(Stage::soon([&] { return bottom("last") < top; })) << bottom("last");
+        EXPECT_GT(bottom("last"), 100);
     }
 }
 
