@@ -14,6 +14,6 @@ Text {
     fontSizeMode: fits ? Text.HorizontalFit : Text.FixedSize
     horizontalAlignment: Text.AlignLeft
     maximumLineCount: 1
-    minimumPointSize: TextStyles.footnote.pointSize / 2
+    minimumPixelSize: TextStyles.footnote.pixelSize / 2
     textFormat: Text.PlainText
 }

@@ -1,8 +1,8 @@
 pragma Singleton
 import QtQuick
 
-/*! The type scale, in the system's own font. A point of a layout is 1/96 inch, a point of type
-    1/72: hence the factor, with which the sizes follow the system's text size. */
+/*! The type scale, in the system's own font. Sizes are points of the layout, however many of them
+    the screen says that an inch has. */
 QtObject {
     id: styles
 
@@ -21,7 +21,7 @@ QtObject {
     /*! The system's font at `points` layout points. */
     function style(points: real, weight: int): font {
         return Qt.font({
-                "pointSize": points * 0.75 * styles.scale,
+                "pixelSize": Math.round(points * styles.scale),
                 "weight": weight
             });
     }
@@ -29,7 +29,7 @@ QtObject {
     /*! `style` in bold. */
     function bold(style: font): font {
         return Qt.font({
-                "pointSize": style.pointSize,
+                "pixelSize": style.pixelSize,
                 "weight": Font.Bold
             });
     }
