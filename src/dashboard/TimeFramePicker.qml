@@ -67,10 +67,6 @@ Column {
                     opacity: choice.pressed ? 0.35 : 1
                     verticalAlignment: Text.AlignVCenter
                 }
-                FocusRing {
-                    distance: -2
-                    visible: choice.visualFocus
-                }
             }
         }
     }

@@ -80,6 +80,8 @@ FocusScope {
         focus: true
         implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight + 2 * Metrics.padding)
         opacity: 1
+        ring.distance: 2
+        ring.radius: 22
         text: view.onboarding.caption
 
         onClicked: view.onboarding.next()
@@ -89,10 +91,6 @@ FocusScope {
             anchors.margins: -shadowExtent
             leftColor: button.LayoutMirroring.enabled ? SystemColors.purple : SystemColors.blue
             rightColor: button.LayoutMirroring.enabled ? SystemColors.blue : SystemColors.purple
-        }
-        FocusRing {
-            visible: button.visualFocus
-            radius: 22
         }
         PlainText {
             id: caption

@@ -11,6 +11,8 @@ Pressable {
 
     implicitHeight: Math.max(50, caption.implicitHeight + Metrics.padding * 2)
     implicitWidth: image.width + Metrics.step * 2 + caption.implicitWidth + 2 * side
+    ring.distance: 2
+    ring.radius: ring.height / 2
     width: Math.min(implicitWidth, parent ? parent.width - 2 * Metrics.padding : Infinity)
 
     Rectangle {
@@ -44,10 +46,5 @@ Pressable {
         height: image.height
         text: button.text
         verticalAlignment: Text.AlignVCenter
-    }
-
-    FocusRing {
-        visible: button.visualFocus
-        radius: height / 2
     }
 }

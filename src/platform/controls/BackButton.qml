@@ -33,9 +33,4 @@ Pressable {
         text: button.text
         visible: chevron.width + Metrics.step * 3 + implicitWidth <= button.room
     }
-
-    FocusRing {
-        visible: button.visualFocus
-        distance: -2
-    }
 }

@@ -16,9 +16,4 @@ Pressable {
         name: button.symbol
         width: Metrics.symbolSize
     }
-
-    FocusRing {
-        visible: button.visualFocus
-        distance: -2
-    }
 }

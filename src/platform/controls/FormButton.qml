@@ -37,8 +37,4 @@ Pressable {
         text: button.text
         verticalAlignment: Text.AlignVCenter
     }
-    FocusRing {
-        visible: button.visualFocus
-        distance: -2
-    }
 }

@@ -11,6 +11,8 @@ Focusable {
     /*! Whether the keyboard comes here, also after a press. */
     property bool takesFocus: true
     readonly property alias pressed: tap.pressed
+    /*! What shows that the keyboard is here. */
+    readonly property alias ring: ring
 
     /*! The user pressed it and let it go on it. */
     signal clicked
@@ -36,6 +38,13 @@ Focusable {
 
     Accessible.onPressAction: pressable.clicked()
 
+    FocusRing {
+        id: ring
+
+        distance: -2
+        visible: pressable.visualFocus
+        z: 1
+    }
     TapHandler {
         id: tap
 

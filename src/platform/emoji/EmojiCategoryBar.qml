@@ -60,10 +60,6 @@ Item {
                     scale: Math.min(1, (parent.width - Metrics.step * 2) / width)
                     text: tab.modelData.symbol
                 }
-                FocusRing {
-                    distance: -1
-                    visible: tab.visualFocus
-                }
             }
         }
     }

@@ -81,10 +81,6 @@ FocusScope {
             color: SystemColors.accent
             text: cancel.text
         }
-        FocusRing {
-            distance: -2
-            visible: cancel.visualFocus
-        }
     }
     EmojiGrid {
         id: grid
