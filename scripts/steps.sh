@@ -43,7 +43,7 @@ test_packages=(
 
 lint_packages=(clang-format)
 
-bench_packages=(gnuplot-nox libbenchmark-dev xvfb)
+bench_packages=(dbus-daemon gnuplot-nox libbenchmark-dev xvfb)
 
 fuzz_packages=(clang libclang-rt-14-dev llvm)
 
