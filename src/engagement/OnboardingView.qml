@@ -18,11 +18,13 @@ FocusScope {
     }
     ListView {
         id: pages
+
         anchors.fill: parent
         boundsBehavior: Flickable.StopAtBounds
         currentIndex: view.onboarding.currentPage
         highlightMoveDuration: Motion.duration(300)
-        highlightRangeMode: ListView.StrictlyEnforceRange
+        // At rest, another width moves the pages, and must not turn them.
+        highlightRangeMode: moving ? ListView.StrictlyEnforceRange : ListView.ApplyRange
         model: view.onboarding.totalPages
         objectName: "pages"
         orientation: ListView.Horizontal
@@ -39,8 +41,19 @@ FocusScope {
 
         onCurrentIndexChanged: view.onboarding.currentPage = currentIndex
 
-        // Another width puts every page elsewhere.
-        onWidthChanged: positionViewAtIndex(currentIndex, ListView.SnapPosition)
+        // Another width puts every page elsewhere, once they have taken it.
+        onWidthChanged: settling.restart()
+
+        Timer {
+            id: settling
+
+            interval: 0
+
+            onTriggered: {
+                pages.forceLayout();
+                pages.positionViewAtIndex(pages.currentIndex, ListView.Beginning);
+            }
+        }
     }
     Row {
         Accessible.name: view.onboarding.position

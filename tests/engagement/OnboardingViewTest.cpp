@@ -26,8 +26,10 @@ struct Pages {
     }
 
     OnboardingView state;
-    Stage stage{"OnboardingView { anchors.fill: parent; onboarding: subject }", true,
-                "Kovamo.Engagement", &state};
+    Stage stage{"property bool mirrored: false;"
+                "OnboardingView { anchors.fill: parent; onboarding: subject;"
+                " LayoutMirroring.enabled: mirrored; LayoutMirroring.childrenInherit: true }",
+                true, "Kovamo.Engagement", &state};
 };
 
 TEST(Onboarding, ItsDotsFollowTheButtonAndTheFinger) {
@@ -46,6 +48,23 @@ TEST(Onboarding, ItsDotsFollowTheButtonAndTheFinger) {
         EXPECT_TRUE(pages.rests());
         pages.stage.drag({195 - by / 2, 300}, {by, 0});
         EXPECT_TRUE(Stage::soon([&] { return pages.state.currentPage() == page; }));
+    }
+}
+
+TEST(Onboarding, KeepsItsPageInAnotherWidth) {
+    for (const bool mirrored : {false, true}) {
+        Pages pages(4);
+        pages.stage.set("mirrored", mirrored);
+        pages.state.setCurrentPage(2);
+        for (const int width : {390, 320, 844, 391}) {
+            pages.stage.set("width", width);
+            EXPECT_TRUE(Stage::soon([&] {
+                const auto* page = pages.stage.get("currentItem", "pages").value<QQuickItem*>();
+                return page->width() == width && page->mapToScene({0, 0}).x() == 0;
+            })) << mirrored
+                << " " << width;
+            EXPECT_EQ(pages.state.currentPage(), 2) << mirrored << " " << width;
+        }
     }
 }
 
