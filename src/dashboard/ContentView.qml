@@ -8,6 +8,7 @@ FocusScope {
     id: screen
 
     required property ContentState content
+    readonly property real contentWidth: Math.min(width, 700)
 
     Component.onCompleted: content.appear()
 
@@ -55,7 +56,7 @@ FocusScope {
             })
         visible: wanted
         wanted: screen.content.hasPeriod
-        width: Math.min(parent.width, 700)
+        width: screen.contentWidth
     }
     LateLoader {
         anchors.bottom: picker.top
@@ -67,7 +68,7 @@ FocusScope {
             })
         visible: wanted
         wanted: screen.content.isEmpty
-        width: Math.min(parent.width, 700)
+        width: screen.contentWidth
     }
     TimeFramePicker {
         id: picker

@@ -50,6 +50,7 @@ Column {
                     onActivated: choice.clicked()
                 }
                 Divider {
+                    anchors.left: parent.left
                     height: 50
                     vertical: true
                     visible: choice.index > 0
