@@ -15,7 +15,8 @@ namespace kovamo {
 
 namespace {
 
-constexpr int patience = 3000;
+/// Longer than a start takes on a slow and busy device: two windows are worse than a late one.
+constexpr int patience = 10000;
 constexpr int pause = 20;
 constexpr int longestToken = 4096;
 constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";

@@ -12,7 +12,7 @@ class SoleInstance : public QObject {
     Q_OBJECT
 
   public:
-    /// Becomes the one for `folder`, or asks the one there is. Where that does not answer in a few
+    /// Becomes the one for `folder`, or asks the one there is. Where that does not answer in ten
     /// seconds, goes on without it.
     explicit SoleInstance(const QString& folder);
     ~SoleInstance() override;
