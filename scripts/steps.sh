@@ -41,7 +41,8 @@ test_packages=(
     xvfb
 )
 
-lint_packages=(clang-format)
+# The QML checker wants the types of every module that a module in use stands on.
+lint_packages=(clang-format qml6-module-qtqml-models)
 
 bench_packages=(dbus-daemon gnuplot-nox libbenchmark-dev xvfb)
 
