@@ -10,6 +10,13 @@ Column {
 
     required property list<timeFrameChoice> choices
     required property int selected
+    readonly property real choiceWidth: width / choices.length
+    readonly property real widestChoice: {
+        let widest = choiceWidth;
+        for (let i = 0; i < repeater.count; ++i)
+            widest = Math.max(widest, repeater.itemAt(i).implicitWidth);
+        return widest;
+    }
 
     signal picked(int value)
 
@@ -20,11 +27,11 @@ Column {
         width: parent.width
     }
     Row {
-        id: row
-
         width: parent.width
 
         Repeater {
+            id: repeater
+
             model: picker.choices
 
             Pressable {
@@ -38,9 +45,10 @@ Column {
                 Accessible.checked: chosen
                 Accessible.role: Accessible.PageTab
                 height: Math.max(50, caption.implicitHeight + Metrics.padding)
+                implicitWidth: caption.implicitWidth + Metrics.step * 2
                 opacity: 1
                 text: caption.text
-                width: row.width / picker.choices.length
+                width: picker.choiceWidth
 
                 onClicked: picker.picked(modelData.value)
 
@@ -59,14 +67,12 @@ Column {
                     id: caption
 
                     Accessible.ignored: true
-                    anchors.fill: parent
-                    anchors.margins: Metrics.step
+                    anchors.centerIn: parent
                     color: choice.chosen ? SystemColors.label : SystemColors.gray
-                    fits: true
-                    horizontalAlignment: Text.AlignHCenter
                     markup: choice.modelData.label
                     opacity: choice.pressed ? 0.35 : 1
-                    verticalAlignment: Text.AlignVCenter
+                    // Where one is too wide, all become smaller.
+                    scale: picker.choiceWidth / picker.widestChoice
                 }
             }
         }
