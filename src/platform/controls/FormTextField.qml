@@ -38,8 +38,12 @@ FormRow {
     T.TextField {
         id: input
 
+        // Half the caret stands before the first letter.
+        readonly property int halfCaret: 1
+
         Accessible.name: field.placeholder
         anchors.left: parent.left
+        anchors.leftMargin: -halfCaret
         anchors.right: accessories.left
         anchors.verticalCenter: parent.verticalCenter
         clip: true
@@ -48,16 +52,23 @@ FormRow {
         horizontalAlignment: Text.AlignLeft
         implicitHeight: contentHeight
         implicitWidth: 100
+        leftPadding: halfCaret
         inputMethodHints: field.numeric ? Qt.ImhDigitsOnly : Qt.ImhNone
         maximumLength: 2147483647
+        rightPadding: halfCaret
         selectByMouse: true
         selectedTextColor: SystemColors.white
         selectionColor: SystemColors.accent
 
-        cursorDelegate: Rectangle {
-            color: SystemColors.accent
+        cursorDelegate: Item {
             visible: input.cursorVisible
-            width: 2
+
+            Rectangle {
+                color: SystemColors.accent
+                height: parent.height
+                width: 2 * input.halfCaret
+                x: -input.halfCaret
+            }
 
             SequentialAnimation on opacity  {
                 loops: Animation.Infinite
@@ -86,6 +97,7 @@ FormRow {
         PlainText {
             Accessible.ignored: true
             anchors.fill: parent
+            anchors.leftMargin: input.halfCaret
             color: SystemColors.tertiaryLabel
             text: field.placeholder
             verticalAlignment: Text.AlignVCenter
