@@ -19,6 +19,7 @@ Column {
     function toggle() {
         month.reset();
         field.unfolded = !field.unfolded;
+        row.forceActiveFocus(Qt.MouseFocusReason);
     }
 
     width: parent ? parent.width : implicitWidth
@@ -43,6 +44,7 @@ Column {
         activeFocusOnTab: true
         isFirst: field.Positioner.isFirstItem
         isLast: field.Positioner.isLastItem && !field.unfolded
+        whole: field
 
         Accessible.onPressAction: field.toggle()
 

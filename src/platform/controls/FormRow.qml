@@ -11,6 +11,8 @@ Focusable {
     /*! The height that the row's items need. */
     property real contentHeight: 0
     default property alias content: slot.data
+    /*! What is to be in sight with the row. */
+    property Item whole: row
     property bool isFirst: Positioner.isFirstItem
     property bool isLast: Positioner.isLastItem
 

@@ -2,7 +2,7 @@ import QtQuick
 import Kovamo.Foundation
 
 /*! A scrolling form of sections on the grouped background. The field that has the focus stays in
-    sight, also when the form becomes lower. */
+    sight, also when the form becomes lower, and with it what the field unfolds. */
 FocusScope {
     id: form
 
@@ -10,15 +10,15 @@ FocusScope {
     default property alias sections: column.data
     readonly property Item focusedItem: Window.activeFocusItem
 
-    /*! Scrolls as little as needed to show the focused item. */
+    /*! Scrolls as little as needed to show the focused item, its top before its bottom. */
     function showFocused() {
         if (!form.activeFocus || form.focusedItem === null)
             return;
-        const area = form.mapFromItem(form.focusedItem, 0, 0, form.focusedItem.width, form.focusedItem.height);
-        if (area.y < 0)
-            flick.contentY += area.y - Metrics.padding;
-        else if (area.y + area.height > flick.height)
-            flick.contentY += area.y + area.height - flick.height + Metrics.padding;
+        const shown = (form.focusedItem as FormRow)?.whole ?? form.focusedItem;
+        const area = form.mapFromItem(shown, 0, 0, shown.width, shown.height);
+        const below = area.y + area.height + Metrics.padding - flick.height;
+        if (area.y < 0 || below > 0)
+            flick.contentY += area.y < 0 ? area.y - Metrics.padding : Math.min(below, area.y);
         flick.returnToBounds();
     }
 
@@ -46,6 +46,8 @@ FocusScope {
         contentHeight: column.height
         contentWidth: width
         flickableDirection: Flickable.VerticalFlick
+
+        onContentHeightChanged: form.showFocused()
 
         Column {
             id: column

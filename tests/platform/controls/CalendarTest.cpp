@@ -99,7 +99,6 @@ TEST(DateField, UnfoldsAMonthAndPicksADay) {
     stage.click(stage.showing("May 15, 2024"));
     stage.click(stage.showing("30"));
     EXPECT_EQ(words(stage.get("day").toDouble()), "2024-05-30 10:00:00.000");
-    stage.press(Qt::Key_Tab);
     stage.press(Qt::Key_Return);
     EXPECT_FALSE(stage.get("unfolded", "field").toBool());
     stage.press(Qt::Key_Return);
@@ -109,6 +108,24 @@ TEST(DateField, UnfoldsAMonthAndPicksADay) {
         stage.press(key);
     EXPECT_EQ(words(stage.get("day").toDouble()), "2024-04-09 10:00:00.000");
     EXPECT_TRUE(stage.showing("Apr 9, 2024"));
+}
+
+TEST(DateField, UnfoldsInSight) {
+    for (const double height : {480, 300}) {
+        Stage stage(R"(
+            GroupedForm {
+                objectName: 'form'; width: 390
+                FormSection { ToggleRow { } ToggleRow { } ToggleRow { } DateField { objectName: 'field'; label: 'Start' } }
+            })");
+        stage.set("height", height, "form");
+        stage.click(stage.showing("Start"));
+        const QQuickItem* field = stage.item("field");
+        EXPECT_TRUE(Stage::soon([&] {
+            const QRectF area = field->mapRectToScene(field->boundingRect());
+            return area.height() > 300 && area.top() >= 0 &&
+                   (area.bottom() <= height || area.top() == 0);
+        }));
+    }
 }
 
 } // namespace
