@@ -52,6 +52,9 @@ QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContex
         if (QQuickItem* item = itemWith(window.contentItem(), property))
             item->setProperty(property, value);
     };
+    const auto call = [&](const char* property, const char* method) {
+        QMetaObject::invokeMethod(itemWith(window.contentItem(), property), method);
+    };
     return {
         {"onboarding-1", [] {}},
         {"onboarding-2", turnPage},
@@ -70,9 +73,10 @@ QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContex
         {"emoji", [set] { set("choosesEmoji", true); }},
         {"emoji-search", [set] { set("query", QStringLiteral("car")); }},
         {"calendar",
-         [set] {
+         [set, call] {
              set("choosesEmoji", false);
-             set("unfolded", true);
+             settle();
+             call("unfolded", "toggle");
          }},
         {"recurring-transaction", [&] { content.addForm()->setIsRecurring(true); }},
         {"transactions",
@@ -82,9 +86,9 @@ QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContex
          }},
         {"swiped-row", [set] { set("offset", 100); }},
         {"edit-transaction",
-         [&, set] {
+         [set, call] {
              set("offset", 0);
-             QMetaObject::invokeMethod(itemWith(window.contentItem(), "offset"), "clicked");
+             call("offset", "clicked");
          }},
     };
 }
