@@ -10,13 +10,6 @@ Column {
 
     required property list<timeFrameChoice> choices
     required property int selected
-    readonly property real choiceWidth: width / choices.length
-    readonly property real widestChoice: {
-        let widest = choiceWidth;
-        for (let i = 0; i < repeater.count; ++i)
-            widest = Math.max(widest, repeater.itemAt(i).implicitWidth);
-        return widest;
-    }
 
     signal picked(int value)
 
@@ -26,54 +19,50 @@ Column {
     Divider {
         width: parent.width
     }
-    Row {
+    EqualRow {
+        id: row
+
+        model: picker.choices
         width: parent.width
 
-        Repeater {
-            id: repeater
+        Pressable {
+            id: choice
 
-            model: picker.choices
+            required property int index
+            required property timeFrameChoice modelData
+            readonly property bool chosen: modelData.value === picker.selected
 
-            Pressable {
-                id: choice
+            Accessible.checkable: true
+            Accessible.checked: chosen
+            Accessible.role: Accessible.PageTab
+            height: Math.max(50, caption.implicitHeight + Metrics.padding)
+            implicitWidth: caption.implicitWidth + Metrics.step * 4
+            opacity: 1
+            text: caption.text
+            width: row.cellWidth
 
-                required property int index
-                required property timeFrameChoice modelData
-                readonly property bool chosen: modelData.value === picker.selected
+            onClicked: picker.picked(modelData.value)
 
-                Accessible.checkable: true
-                Accessible.checked: chosen
-                Accessible.role: Accessible.PageTab
-                height: Math.max(50, caption.implicitHeight + Metrics.padding)
-                implicitWidth: caption.implicitWidth + Metrics.step * 2
-                opacity: 1
-                text: caption.text
-                width: picker.choiceWidth
+            Shortcut {
+                sequence: choice.modelData.shortcut
 
-                onClicked: picker.picked(modelData.value)
+                onActivated: choice.clicked()
+            }
+            Divider {
+                anchors.left: parent.left
+                height: 50
+                vertical: true
+                visible: choice.index > 0
+            }
+            EmphasizedText {
+                id: caption
 
-                Shortcut {
-                    sequence: choice.modelData.shortcut
-
-                    onActivated: choice.clicked()
-                }
-                Divider {
-                    anchors.left: parent.left
-                    height: 50
-                    vertical: true
-                    visible: choice.index > 0
-                }
-                EmphasizedText {
-                    id: caption
-
-                    Accessible.ignored: true
-                    anchors.centerIn: parent
-                    color: choice.chosen ? SystemColors.label : SystemColors.gray
-                    markup: choice.modelData.label
-                    opacity: choice.pressed ? 0.35 : 1
-                    // Where one is too wide, all become smaller.
-                    scale: picker.choiceWidth / picker.widestChoice
-                }
+                Accessible.ignored: true
+                anchors.centerIn: parent
+                color: choice.chosen ? SystemColors.label : SystemColors.gray
+                markup: choice.modelData.label
+                opacity: choice.pressed ? 0.35 : 1
+                scale: row.shrink
             }
         }
     }

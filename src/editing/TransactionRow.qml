@@ -3,7 +3,8 @@ import Kovamo.Controls
 import Kovamo.Editing
 import Kovamo.Foundation
 
-/*! The line that stands for a transaction: emoji, title, the mark of a recurrence, the amount. */
+/*! The line that stands for a transaction: emoji, title, the mark of a recurrence, the amount. Where
+    large text leaves the title no room, the amount stands below it. */
 Item {
     id: row
 
@@ -11,14 +12,19 @@ Item {
     /*! Whether the mark is shown on what recurs. */
     property bool marksRecurring: false
 
-    implicitHeight: Math.max(Metrics.rowHeight, titleText.implicitHeight + Metrics.step * 4)
+    /*! The room for the title and the amount, and for the title beside the amount. */
+    readonly property real room: width - emojiText.width - Metrics.padding * 2 - Metrics.step * 2 - (symbol.visible ? symbol.width + Metrics.step * 2 : 0)
+    readonly property real roomBeside: room - amountText.width - Metrics.step * 2
+    readonly property bool stacked: TextStyles.isLarge && titleText.implicitWidth > roomBeside
+
+    implicitHeight: Math.max(Metrics.rowHeight, titleText.height + (stacked ? amountText.height : 0) + Metrics.step * 4)
 
     EmojiText {
         id: emojiText
 
         anchors.left: parent.left
         anchors.leftMargin: Metrics.padding
-        anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenter: titleText.verticalCenter
         color: SystemColors.label
         font: TextStyles.body
         text: row.line.emoji
@@ -31,20 +37,23 @@ Item {
         anchors.left: emojiText.right
         anchors.leftMargin: Metrics.step * 2
         anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenterOffset: row.stacked ? -amountText.height / 2 : 0
+        maximumLineCount: TextStyles.isLarge ? 3 : 1
         text: row.line.title
-        width: Math.min(implicitWidth, row.width - emojiText.width - amountText.width - Metrics.padding * 2 - Metrics.step * 4 - (symbol.visible ? symbol.width + Metrics.step * 2 : 0))
+        width: Math.min(Math.ceil(implicitWidth), row.stacked ? row.room : row.roomBeside)
+        wrapMode: TextStyles.isLarge ? Text.Wrap : Text.NoWrap
     }
     SystemImage {
         id: symbol
 
         anchors.left: titleText.right
         anchors.leftMargin: Metrics.step * 2
-        anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenter: titleText.verticalCenter
         color: SystemColors.label
-        height: 20
+        height: Metrics.symbolSize
         name: "arrow.triangle.2.circlepath.circle"
         visible: row.marksRecurring && row.line.isRecurring
-        width: 20
+        width: Metrics.symbolSize
     }
     PlainText {
         id: amountText
@@ -53,6 +62,7 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Metrics.padding
         anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenterOffset: row.stacked ? titleText.height / 2 : 0
         text: row.line.amount
     }
 }

@@ -40,6 +40,7 @@ NavigationStack {
             accessibleName: line.sentence
             activeFocusOnTab: ListView.isCurrentItem || activeFocus
             focus: ListView.isCurrentItem
+            implicitHeight: words.implicitHeight
 
             // A row in waiting is nothing to a screen reader.
             ListView.onPooled: visible = false
@@ -50,6 +51,8 @@ NavigationStack {
             onDeleteRequested: screen.transactions.remove([index])
 
             TransactionRow {
+                id: words
+
                 line: row.line
                 marksRecurring: true
                 width: row.width

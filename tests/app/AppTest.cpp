@@ -45,6 +45,22 @@ class Visit {
         click(field);
         type(text);
     }
+    /// Shows text twice as large as usual in a window of a width.
+    void enlargeText(int width) {
+        m_window->setProperty("textScale", 2);
+        m_window->resize(width, m_window->height());
+    }
+    [[nodiscard]] double scaleOf(const QString& text) const {
+        return shown(*m_window, text)->scale();
+    }
+    /// Whether a text comes to be shown with all its letters.
+    [[nodiscard]] bool showsWhole(const QString& text) const {
+        return soon([&] {
+            const QQuickItem* item = shown(*m_window, text, false);
+            return item && item->property("contentWidth").toDouble() > 10 &&
+                   !item->property("truncated").toBool();
+        });
+    }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(m_window, key, modifiers);
     }
@@ -124,6 +140,26 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
     visit.write("Title", "?");
     visit.press(Qt::Key_Escape);
     EXPECT_EQ(record.title(), QStringLiteral("title!")) << "leaving the form keeps nothing";
+}
+
+TEST_F(App, ShowsAllOfLargeText) {
+    Book book;
+    const QString title = QStringLiteral("A wooden chair and a table");
+    for (int letters = 4; letters <= title.size(); letters += 2)
+        book.add({1000 - letters}).setTitle(title.first(letters));
+    Visit visit(book);
+    for (const int width : {390, 320, 430}) {
+        visit.enlargeText(width);
+        EXPECT_LT(visit.scaleOf("12 Months"), 1);
+        EXPECT_EQ(visit.scaleOf("Current"), visit.scaleOf("12 Months"));
+        visit.press(Qt::Key_L, Qt::ControlModifier);
+        for (const int narrower : {0, 20}) {
+            visit.enlargeText(width - narrower);
+            for (int letters = 4; letters <= 14; letters += 2)
+                EXPECT_TRUE(visit.showsWhole(title.first(letters))) << width << ' ' << letters;
+        }
+        visit.press(Qt::Key_Escape);
+    }
 }
 
 TEST_F(App, SeesADeletionUnderTheSheet) {

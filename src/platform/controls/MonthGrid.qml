@@ -53,19 +53,29 @@ Column {
             }
         }
     }
-    Row {
-        Repeater {
-            model: grid.calendar.weekdays
+    EqualRow {
+        id: weekdays
+
+        model: grid.calendar.weekdays
+        width: parent.width
+
+        Item {
+            id: weekday
+
+            required property string modelData
+
+            height: name.height
+            implicitWidth: name.width + Metrics.step
+            width: weekdays.cellWidth
 
             PlainText {
-                required property string modelData
+                id: name
 
+                anchors.centerIn: parent
                 color: SystemColors.secondaryLabel
                 font: TextStyles.footnote
-                fits: true
-                horizontalAlignment: Text.AlignHCenter
-                text: modelData
-                width: grid.cellWidth
+                scale: weekdays.shrink
+                text: weekday.modelData
             }
         }
     }

@@ -13,7 +13,6 @@ Focusable {
     property string selected
     readonly property int inset: 2
     readonly property int index: labels.indexOf(selected)
-    readonly property real segmentWidth: (width - 2 * inset) / Math.max(1, labels.length)
 
     /*! The user chose `label`. */
     signal picked(string label)
@@ -49,8 +48,8 @@ Focusable {
         height: control.height - 2 * control.inset
         radius: 7
         visible: control.index >= 0
-        width: control.segmentWidth
-        x: control.inset + place * control.segmentWidth
+        width: segments.cellWidth
+        x: control.inset + place * segments.cellWidth
         y: control.inset
 
         Behavior on x  {
@@ -62,49 +61,50 @@ Focusable {
             }
         }
     }
-    Row {
+    EqualRow {
+        id: segments
+
         height: control.height - 2 * control.inset
+        model: control.labels
+        width: control.width - 2 * control.inset
         x: control.inset
         y: control.inset
 
-        Repeater {
-            model: control.labels
+        // The toolkit's text hands the press on to what scrolls behind it: the tap stands apart.
+        Item {
+            id: segment
 
-            // The toolkit's text hands the press on to what scrolls behind it: the tap stands apart.
-            Item {
-                id: segment
+            required property string modelData
+            readonly property bool chosen: modelData === control.selected
 
-                required property string modelData
-                readonly property bool chosen: modelData === control.selected
+            Accessible.checkable: true
+            Accessible.checked: chosen
+            Accessible.focusable: true
+            Accessible.name: modelData
+            Accessible.role: Accessible.RadioButton
+            height: parent.height
+            implicitWidth: label.width + Metrics.step * 4
+            width: segments.cellWidth
 
-                Accessible.checkable: true
-                Accessible.checked: chosen
-                Accessible.focusable: true
-                Accessible.name: modelData
-                Accessible.role: Accessible.RadioButton
-                height: parent.height
-                width: control.segmentWidth
+            Accessible.onPressAction: control.picked(modelData)
+            Accessible.onToggleAction: control.picked(modelData)
 
-                Accessible.onPressAction: control.picked(modelData)
-                Accessible.onToggleAction: control.picked(modelData)
+            PlainText {
+                id: label
 
-                PlainText {
-                    Accessible.ignored: true
-                    anchors.fill: parent
-                    font: segment.chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
-                    fits: true
-                    horizontalAlignment: Text.AlignHCenter
-                    opacity: tap.pressed && !segment.chosen ? 0.4 : 1
-                    text: segment.modelData
-                    verticalAlignment: Text.AlignVCenter
-                }
-                TapHandler {
-                    id: tap
+                Accessible.ignored: true
+                anchors.centerIn: parent
+                font: segment.chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
+                opacity: tap.pressed && !segment.chosen ? 0.4 : 1
+                scale: segments.shrink
+                text: segment.modelData
+            }
+            TapHandler {
+                id: tap
 
-                    gesturePolicy: TapHandler.ReleaseWithinBounds
+                gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                    onTapped: control.picked(segment.modelData)
-                }
+                onTapped: control.picked(segment.modelData)
             }
         }
     }

@@ -8,6 +8,8 @@ QtObject {
 
     /*! How much larger than usual the user wants all text. */
     property real scale: 1
+    /*! Whether text is so large that a line holds little of it. */
+    readonly property bool isLarge: scale >= 1.5
 
     readonly property font largeTitle: styles.style(34, Font.Normal)
     readonly property font title: styles.style(22, Font.Normal)
