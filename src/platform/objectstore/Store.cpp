@@ -38,10 +38,6 @@ auto guarded(const QString& path, Work work) {
     }
 }
 
-QString quoted(const QString& name) {
-    return u'"' + name + u'"';
-}
-
 std::string utf8(const QString& text) {
     return text.toStdString();
 }
@@ -73,39 +69,10 @@ int put(SQLite::Statement& statement, const ManagedObject& object) {
     return changed;
 }
 
-QString sortKeys(const std::vector<SortDescriptor>& descriptors) {
-    QStringList keys;
-    for (const SortDescriptor& descriptor : descriptors)
-        keys.append(quoted(descriptor.key) + QLatin1String(descriptor.ascending ? "" : " DESC"));
-    return keys.join(u',');
-}
-
-QString columnDefinition(const AttributeDescription& attribute) {
-    const auto definition = [&](const char* format) {
-        return QString::fromLatin1(format).arg(quoted(attribute.name));
-    };
-    switch (attribute.type) {
-    case AttributeType::integer32:
-        return definition("%1 INTEGER NOT NULL DEFAULT 0 "
-                          "CHECK (%1 BETWEEN -2147483648 AND 2147483647)");
-    case AttributeType::boolean:
-        return definition("%1 INTEGER NOT NULL DEFAULT 0 CHECK (%1 IN (0, 1))");
-    case AttributeType::date:
-        return definition("%1 INTEGER");
-    case AttributeType::string:
-    case AttributeType::uuid:
-        return definition("%1 TEXT");
-    }
-    Q_UNREACHABLE();
-}
-
 } // namespace
 
 Store::Store(const QString& path, const EntityDescription& entity)
-    : m_path(path), m_entity(entity), m_table(quoted(entity.name)) {
-    for (const AttributeDescription& attribute : entity.attributes)
-        m_columns.append(quoted(attribute.name));
-    m_rowSelection = u"SELECT " + m_columns.join(u',') + u" FROM " + m_table + u" WHERE pk = ?";
+    : m_path(path), m_entity(entity), m_table(entity) {
     if (isEmptied(path))
         fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path);
     makeFile(path);
@@ -122,7 +89,7 @@ Store::Store(const QString& path, const EntityDescription& entity)
         refuseDamaged();
         createSchema();
         // Fails where the table lacks a column, and so before anything is written.
-        (void)m_statements->use(m_rowSelection);
+        (void)m_statements->use(m_table.selection);
         m_database->exec("PRAGMA synchronous = FULL");
         sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
         (void)changedElsewhere();
@@ -168,24 +135,14 @@ void Store::createSchema() {
         return;
     if (integer(QStringLiteral("SELECT count(*) FROM sqlite_schema")) != 0)
         fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, m_path);
-    QStringList definitions{QStringLiteral("pk INTEGER PRIMARY KEY")};
-    for (const AttributeDescription& attribute : m_entity.attributes)
-        definitions.append(columnDefinition(attribute));
-    m_database->exec(
-        utf8(u"CREATE TABLE " + m_table + u" (" + definitions.join(u',') + u") STRICT"));
-    for (const std::vector<SortDescriptor>& index : m_entity.indexes) {
-        QString name = m_entity.name;
-        for (const SortDescriptor& descriptor : index)
-            name += u'_' + descriptor.key;
-        m_database->exec(utf8(u"CREATE INDEX " + quoted(name) + u" ON " + m_table + u" (" +
-                              sortKeys(index) + u')'));
-    }
+    for (const QString& definition : m_table.definitions)
+        m_database->exec(utf8(definition));
     m_database->exec("PRAGMA user_version = " + std::to_string(schemaVersion));
     transaction.commit();
 }
 
 StatementCache::Use Store::prepared(const QString& selection, const FetchRequest& request) const {
-    QString sql = u"SELECT " + selection + u" FROM " + m_table;
+    QString sql = u"SELECT " + selection + u" FROM " + m_table.name;
     if (const QString condition = request.predicate.sql(m_entity); !condition.isEmpty())
         sql += u" WHERE " + condition;
     for (const SortDescriptor& descriptor : request.sortDescriptors)
@@ -236,7 +193,7 @@ std::size_t Store::count(const FetchRequest& request) const {
 
 std::vector<Value> Store::read(ObjectID id) {
     return guarded(m_path, [&] {
-        const auto row = m_statements->use(m_rowSelection);
+        const auto row = m_statements->use(m_table.selection);
         row->bind(1, id);
         std::vector<Value> values;
         if (row->executeStep()) {
@@ -269,8 +226,8 @@ QString Store::shared(const QString& text) {
 }
 
 ObjectID Store::unusedID() const {
-    return guarded(m_path,
-                   [&] { return integer(u"SELECT coalesce(max(pk), 0) + 1 FROM " + m_table); });
+    return guarded(
+        m_path, [&] { return integer(u"SELECT coalesce(max(pk), 0) + 1 FROM " + m_table.name); });
 }
 
 bool Store::keepCopy(int pages) {
@@ -278,7 +235,7 @@ bool Store::keepCopy(int pages) {
     if (m_dayOfCopy == today)
         return true;
     try {
-        if (!m_copy && integer(u"SELECT EXISTS (SELECT 1 FROM " + m_table + u')'))
+        if (!m_copy && integer(u"SELECT EXISTS (SELECT 1 FROM " + m_table.name + u')'))
             m_copy.emplace(*m_database, m_path);
         if (m_copy && !m_copy->step(pages))
             return false;
@@ -297,16 +254,11 @@ void Store::prepareToWrite() {
 }
 
 bool Store::write(const ObjectChanges& changes) {
-    const QString insertion = u"INSERT INTO " + m_table + u" (" + m_columns.join(u',') +
-                              u",pk) VALUES (" + QStringLiteral("?,").repeated(m_columns.size()) +
-                              u"?)";
-    const QString update =
-        u"UPDATE " + m_table + u" SET " + m_columns.join(QStringLiteral("=?,")) + u"=? WHERE pk=?";
     prepareToWrite();
     return guarded(m_path, [&] {
-        const auto inserting = m_statements->use(insertion);
-        const auto updating = m_statements->use(update);
-        const auto deleting = m_statements->use(u"DELETE FROM " + m_table + u" WHERE pk=?");
+        const auto inserting = m_statements->use(m_table.insertion);
+        const auto updating = m_statements->use(m_table.update);
+        const auto deleting = m_statements->use(m_table.deletion);
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
         if (!changes.inserted.empty() && changes.inserted.front()->objectID() < unusedID())
             return false;

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "EntityTable.h"
 #include "FetchRequest.h"
 #include "StatementCache.h"
 #include "StoreCopy.h"
 #include "platform/foundation/Calendar.h"
 
 #include <QSet>
-#include <QStringList>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 #include <optional>
@@ -15,8 +15,7 @@ namespace kovamo {
 
 struct ObjectChanges;
 
-/// One SQLite file with one table: the entity's, an integer primary key "pk" and a column for each
-/// attribute. All failures are thrown as StoreError.
+/// One SQLite file with one table: the entity's. All failures are thrown as StoreError.
 class Store {
   public:
     /// Opens the store at `path`, or makes it, readable and writable by its owner only. A file
@@ -69,9 +68,7 @@ class Store {
 
     QString m_path;
     const EntityDescription& m_entity;
-    QString m_table;
-    QStringList m_columns;
-    QString m_rowSelection;
+    EntityTable m_table;
     mutable std::optional<SQLite::Database> m_database;
     mutable std::optional<StatementCache> m_statements;
     std::optional<StoreCopy> m_copy;

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "EntityDescription.h"
+
+#include <QStringList>
+
+namespace kovamo {
+
+/// The table of an entity's records as SQL words it: an integer primary key "pk" and a column for
+/// each attribute.
+struct EntityTable {
+    explicit EntityTable(const EntityDescription& entity);
+
+    /// Its quoted name.
+    QString name;
+    /// The statements that make it and its indexes.
+    QStringList definitions;
+    /// The columns of the record with an identity.
+    QString selection;
+    /// Takes the columns' values, then the identity.
+    QString insertion;
+    /// Takes the columns' values, then the identity.
+    QString update;
+    /// Takes the identity.
+    QString deletion;
+};
+
+/// The columns to sort by, the most important first.
+[[nodiscard]] QString sortKeys(const std::vector<SortDescriptor>& descriptors);
+
+} // namespace kovamo
