@@ -6,7 +6,9 @@
 #include "StoredValue.h"
 #include "platform/foundation/RadixSort.h"
 
+#include <QDeadlineTimer>
 #include <QFileInfo>
+#include <QThread>
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -249,8 +251,17 @@ bool Store::keepCopy(int pages) {
 
 void Store::prepareToWrite() {
     keepCopy(-1);
-    if (!std::exchange(m_wasWritten, true))
-        guarded(m_path, [&] { m_database->exec("PRAGMA journal_mode = WAL"); });
+    if (std::exchange(m_wasWritten, true))
+        return;
+    // Where two writers do this at once, SQLite refuses one of them instead of letting it wait.
+    const auto setMode = [&] { return m_database->tryExec("PRAGMA journal_mode = WAL"); };
+    const QDeadlineTimer deadline(busyTimeoutMilliseconds);
+    int code = setMode();
+    for (; code == SQLITE_BUSY && !deadline.hasExpired(); code = setMode())
+        QThread::msleep(1);
+    if (code != SQLITE_OK)
+        fail(QString::fromUtf8(m_database->getErrorMsg()), m_database->getExtendedErrorCode(),
+             m_path);
 }
 
 bool Store::write(const ObjectChanges& changes) {
