@@ -2,6 +2,7 @@ import QtQuick
 import Kovamo.Controls
 import Kovamo.Editing
 import Kovamo.Emoji
+import Kovamo.Forms
 
 /*! The form through which a transaction is recorded or changed. */
 GroupedForm {

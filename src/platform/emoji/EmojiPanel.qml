@@ -1,6 +1,7 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Emoji
+import Kovamo.Forms
 import Kovamo.Foundation
 
 /*! What a sheet shows to choose an emoji: a search, the emoji by category, and the categories to

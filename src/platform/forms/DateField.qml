@@ -1,5 +1,6 @@
 import QtQuick
 import Kovamo.Controls
+import Kovamo.Forms
 import Kovamo.Foundation
 
 /*! A row that shows a day and unfolds a month to pick another from. The owner holds the moment: it

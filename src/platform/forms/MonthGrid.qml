@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
+import Kovamo.Forms
 import Kovamo.Foundation
 
 /*! A month's days under the names of the week's, and the way to the months around it. */

@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A card of rows in a form, with a hairline between one visible row and the next. */

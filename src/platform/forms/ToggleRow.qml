@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A row with a switch. The owner holds the state: it hears `toggled` and sets `checked`. */

@@ -1,4 +1,5 @@
 import QtQuick
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A scrolling form of sections on the grouped background. The field that has the focus stays in

@@ -1,6 +1,6 @@
 #include "support/Stage.h"
 
-#include "platform/controls/MonthCalendar.h"
+#include "platform/forms/MonthCalendar.h"
 #include "support/World.h"
 
 #include <QSignalSpy>

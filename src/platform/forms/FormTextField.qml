@@ -1,6 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
+import Kovamo.Controls
 import Kovamo.Foundation
 
 /*! A field for one line of plain text of any length. The owner holds the text: it hears `edited`

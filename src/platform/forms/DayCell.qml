@@ -1,5 +1,6 @@
 import QtQuick
 import Kovamo.Controls
+import Kovamo.Forms
 import Kovamo.Foundation
 
 /*! One day of a month: its number, on a disc when it is the picked one. */
