@@ -246,17 +246,20 @@ TEST_F(NothingLost, WhenTwoProcessesWrite) {
             const pid_t other = ::fork();
             const int end = ends[other == 0];
             ::close(ends[other != 0]);
-            Book book;
-            // The first save of a store is the one that changes its mode: both begin at once.
-            char byte = 0;
-            if (::write(end, &byte, 1) != 1 || ::read(end, &byte, 1) != 1)
-                return;
-            for (int i = 0; i < 20; ++i)
-                addAndSave(book, {i});
+            for (int visit = 0; visit < 3; ++visit) {
+                Book book;
+                // The first save changes the store's mode, the first end takes its log away: both
+                // begin at once.
+                char byte = 0;
+                if (::write(end, &byte, 1) != 1 || ::read(end, &byte, 1) != 1)
+                    return;
+                for (int i = 0; i < 5; ++i)
+                    addAndSave(book, {i});
+            }
             ::waitpid(other, nullptr, 0);
         });
         EXPECT_EQ(both.said, "");
-        EXPECT_EQ(stored().size(), 40U);
+        EXPECT_EQ(stored().size(), 30U);
     }
 }
 

@@ -1,7 +1,9 @@
 #include "Soundness.h"
 
 #include <QFileInfo>
+#include <algorithm>
 #include <memory>
+#include <sqlite3.h>
 #include <xxhash.h>
 
 namespace kovamo {
@@ -14,17 +16,26 @@ QString sealPath(const QString& path) {
     return path + u"-seal";
 }
 
-/// A digest of a file's content in hexadecimal; empty when it cannot be read.
-QByteArray digest(const QString& path) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+/// A digest of the content of a database's file in hexadecimal; empty when it cannot be read. It
+/// is read through SQLite: a process that closes the file beside it gives up all its locks on it,
+/// and another one may then take away the log that it writes to.
+QByteArray digest(SQLite::Database& database) {
+    sqlite3_file* file = nullptr;
+    sqlite3_int64 size = 0;
+    if (sqlite3_file_control(database.getHandle(), "main", SQLITE_FCNTL_FILE_POINTER, &file) !=
+            SQLITE_OK ||
+        file->pMethods->xFileSize(file, &size) != SQLITE_OK)
         return {};
     const std::unique_ptr<XXH3_state_t, decltype(&XXH3_freeState)> state(XXH3_createState(),
                                                                          &XXH3_freeState);
     XXH3_64bits_reset(state.get());
     QByteArray bytes(chunk, Qt::Uninitialized);
-    for (qint64 size = 0; (size = file.read(bytes.data(), chunk)) > 0;)
-        XXH3_64bits_update(state.get(), bytes.constData(), static_cast<std::size_t>(size));
+    for (sqlite3_int64 place = 0; place < size; place += chunk) {
+        const int length = static_cast<int>(std::min<sqlite3_int64>(chunk, size - place));
+        if (file->pMethods->xRead(file, bytes.data(), length, place) != SQLITE_OK)
+            return {};
+        XXH3_64bits_update(state.get(), bytes.constData(), static_cast<std::size_t>(length));
+    }
     return QByteArray::number(static_cast<qulonglong>(XXH3_64bits_digest(state.get())), 16);
 }
 
@@ -35,9 +46,9 @@ QString faultOf(SQLite::Database& database) {
     return verdict == "ok" ? QString() : QString::fromStdString(verdict).replace(u'\n', u' ');
 }
 
-bool isSealed(const QString& path) {
+bool isSealed(SQLite::Database& database, const QString& path) {
     QFile file(sealPath(path));
-    return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.readAll() == digest(path);
+    return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.readAll() == digest(database);
 }
 
 bool isEmptied(const QString& path) {
@@ -47,12 +58,12 @@ bool isEmptied(const QString& path) {
     return file.isFile() && file.size() == 0 && QFile::exists(sealPath(path));
 }
 
-void seal(const QString& path) {
+void seal(SQLite::Database& database, const QString& path) {
     QFile file(sealPath(path));
     if (QFileInfo(path + u"-wal").size() > 0 || !file.open(QIODevice::WriteOnly))
         return;
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
-    file.write(digest(path));
+    file.write(digest(database));
 }
 
 } // namespace kovamo

@@ -9,17 +9,18 @@ namespace kovamo {
 /// Reads all of it.
 [[nodiscard]] QString faultOf(SQLite::Database& database);
 
-/// Whether the file at `path` has, byte for byte, the content that was last sealed. A fraction of
-/// the cost of faultOf(), and it sees what that cannot: a changed digit in an amount.
-[[nodiscard]] bool isSealed(const QString& path);
+/// Whether the file of a database, which is at `path`, has byte for byte the content that was last
+/// sealed. A fraction of the cost of faultOf(), and it sees what that cannot: a changed digit in an
+/// amount.
+[[nodiscard]] bool isSealed(SQLite::Database& database, const QString& path);
 
 /// Whether the file at `path` was sealed once and is empty now. Where there is no file, the seal
 /// is forgotten: whoever removes a store wants a new one.
 [[nodiscard]] bool isEmptied(const QString& path);
 
-/// Remembers the content of the file at `path` as sound, in a file beside it, unless a part of the
-/// database still lies in its log. Requires that faultOf() found nothing. A seal that cannot be
-/// written is passed over: the next check takes longer.
-void seal(const QString& path);
+/// Remembers the content of a database's file, which is at `path`, as sound, in a file beside it,
+/// unless a part of the database still lies in its log. Requires that faultOf() found nothing. A
+/// seal that cannot be written is passed over: the next check takes longer.
+void seal(SQLite::Database& database, const QString& path);
 
 } // namespace kovamo

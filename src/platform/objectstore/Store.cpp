@@ -54,10 +54,18 @@ void makeFile(const QString& path) {
         if (::mkdir(ancestor.constData(), 0700) != 0 && errno != EEXIST)
             fail(QString::fromLocal8Bit(std::strerror(errno)), errno, path);
     }
-    const int file = ::open(path.toLocal8Bit().constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (file < 0)
-        fail(QString::fromLocal8Bit(std::strerror(errno)), errno, path);
-    ::close(file);
+    // One that is there is SQLite's alone: to open and close it here would give up its locks.
+    const QByteArray name = path.toLocal8Bit();
+    const int file = ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    int code = file < 0 ? errno : 0;
+    if (file >= 0)
+        ::close(file);
+    if (code == EEXIST)
+        code = QFileInfo(path).isDir()                   ? EISDIR
+               : ::access(name.constData(), R_OK | W_OK) ? errno
+                                                         : 0;
+    if (code != 0)
+        fail(QString::fromLocal8Bit(std::strerror(code)), code, path);
 }
 
 /// Runs a statement with the record's values and its identity; returns how many rows it changed.
@@ -100,12 +108,14 @@ Store::Store(const QString& path, const EntityDescription& entity)
 
 Store::~Store() {
     try {
-        const bool isSound = m_wasWritten && faultOf(*m_database).isEmpty();
         m_copy.reset();
         m_statements.reset();
-        m_database.reset();
-        if (isSound)
-            seal(m_path);
+        if (!m_wasWritten || !faultOf(*m_database).isEmpty())
+            return;
+        // Who reads or writes at this moment has a log of its own to seal.
+        m_database->setBusyTimeout(0);
+        m_database->exec("PRAGMA wal_checkpoint(TRUNCATE)");
+        seal(*m_database, m_path);
     } catch (const SQLite::Exception&) {
         // Without a seal, the next opening looks for itself.
     }
@@ -119,11 +129,11 @@ void Store::refuseNewer() const {
 }
 
 void Store::refuseDamaged() const {
-    if (isSealed(m_path) || QFileInfo(m_path).size() == 0)
+    if (isSealed(*m_database, m_path) || QFileInfo(m_path).size() == 0)
         return;
     if (const QString fault = faultOf(*m_database); !fault.isEmpty())
         fail(fault, SQLITE_CORRUPT, m_path);
-    seal(m_path);
+    seal(*m_database, m_path);
 }
 
 void Store::createSchema() {
