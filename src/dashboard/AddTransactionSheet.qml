@@ -15,6 +15,7 @@ Sheet {
     presented: content.showAddTransaction
     title: content.addForm ? content.addForm.navigationTitle : ""
 
+    onClosed: content.addTransactionDidClose()
     onDismissed: content.showAddTransaction = false
 
     NavigationStack {

@@ -26,10 +26,16 @@ QList<TimeFrameChoice> ContentView::timeFrames() {
 void ContentView::setShowAddTransaction(bool show) {
     if (std::exchange(m_showAddTransaction, show) == show)
         return;
-    if (show) {
-        m_addForm = std::make_unique<AddTransactionView>(m_viewContext);
-        connect(m_addForm.get(), &AddTransactionView::dismissed, this,
-                [this] { setShowAddTransaction(false); });
+    if (show && (!m_addForm || m_addFormIsDone)) {
+        // It stays until the other is shown in its place.
+        const auto before =
+            std::exchange(m_addForm, std::make_unique<AddTransactionView>(m_viewContext));
+        m_addFormIsDone = false;
+        connect(m_addForm.get(), &AddTransactionView::dismissed, this, [this] {
+            m_addFormIsDone = true;
+            setShowAddTransaction(false);
+        });
+        Q_EMIT addFormChanged();
     }
     Q_EMIT showAddTransactionChanged();
 }
@@ -37,9 +43,21 @@ void ContentView::setShowAddTransaction(bool show) {
 void ContentView::setShowTransactions(bool show) {
     if (std::exchange(m_showTransactions, show) == show)
         return;
-    if (show)
+    if (show && !m_allTransactions) {
         m_allTransactions = std::make_unique<TransactionsView>(m_viewContext);
+        Q_EMIT allTransactionsChanged();
+    }
     Q_EMIT showTransactionsChanged();
+}
+
+void ContentView::addTransactionDidClose() {
+    m_addForm.reset();
+    Q_EMIT addFormChanged();
+}
+
+void ContentView::transactionsDidClose() {
+    m_allTransactions.reset();
+    Q_EMIT allTransactionsChanged();
 }
 
 void ContentView::appear() {

@@ -49,9 +49,9 @@ class ContentView : public QObject {
     Q_PROPERTY(kovamo::Banner banner READ banner NOTIFY laidOut)
     Q_PROPERTY(kovamo::TransactionChart chart READ chart NOTIFY laidOut)
     Q_PROPERTY(kovamo::FilteredList* filteredList READ filteredList CONSTANT)
-    Q_PROPERTY(kovamo::AddTransactionView* addForm READ addForm NOTIFY showAddTransactionChanged)
+    Q_PROPERTY(kovamo::AddTransactionView* addForm READ addForm NOTIFY addFormChanged)
     Q_PROPERTY(kovamo::TransactionsView* allTransactions READ allTransactions NOTIFY
-                   showTransactionsChanged)
+                   allTransactionsChanged)
 
   public:
     /// Requires: `viewContext` outlives the screen. `requestReview` runs at each appearance, after
@@ -83,10 +83,15 @@ class ContentView : public QObject {
     [[nodiscard]] const TransactionChart& chart() const { return m_chart; }
     [[nodiscard]] FilteredList* filteredList() { return &m_filteredList; }
 
-    /// The form and the screen behind the sheets, from the moment they are shown until they are
-    /// shown again.
+    /// The form and the screen behind the sheets, from the moment they are shown until their sheet
+    /// has closed; null else. A sheet that is opened again on its way out shows the same, but for a
+    /// form that has saved.
     [[nodiscard]] AddTransactionView* addForm() const { return m_addForm.get(); }
     [[nodiscard]] TransactionsView* allTransactions() const { return m_allTransactions.get(); }
+
+    /// A sheet has closed: what it showed goes.
+    Q_INVOKABLE void addTransactionDidClose();
+    Q_INVOKABLE void transactionsDidClose();
 
     /// The screen appears: loads the period, lays it out and runs the review policy.
     Q_INVOKABLE void appear();
@@ -98,6 +103,8 @@ class ContentView : public QObject {
     void selectedTimeFrameChanged();
     void showAddTransactionChanged();
     void showTransactionsChanged();
+    void addFormChanged();
+    void allTransactionsChanged();
     void laidOut();
 
   private:
@@ -119,6 +126,7 @@ class ContentView : public QObject {
     TransactionChart m_chart;
     FilteredList m_filteredList;
     std::unique_ptr<AddTransactionView> m_addForm;
+    bool m_addFormIsDone = false;
     std::unique_ptr<TransactionsView> m_allTransactions;
 };
 

@@ -9,6 +9,9 @@ FocusScope {
 
     required property ContentState content
     readonly property real contentWidth: Math.min(width, 700)
+    /*! Whether a sheet is open. One that is on its way out can be called back: the toolkit would keep
+        the window's shortcuts from what is behind it, or not, by when its controls were loaded. */
+    readonly property bool isCovered: content.showAddTransaction || content.showTransactions
 
     Component.onCompleted: content.appear()
 
@@ -17,11 +20,15 @@ FocusScope {
         color: SystemColors.background
     }
     Shortcut {
+        context: Qt.ApplicationShortcut
+        enabled: !screen.isCovered
         sequence: "Ctrl+N"
 
         onActivated: screen.content.showAddTransaction = true
     }
     Shortcut {
+        context: Qt.ApplicationShortcut
+        enabled: !screen.isCovered
         sequence: "Ctrl+L"
 
         onActivated: screen.content.showTransactions = true
@@ -75,6 +82,7 @@ FocusScope {
 
         anchors.bottom: parent.bottom
         choices: screen.content.timeFrames
+        hasShortcuts: !screen.isCovered
         height: visible ? implicitHeight : 0
         selected: screen.content.selectedTimeFrame
         visible: screen.content.hasTransactions

@@ -10,6 +10,8 @@ Column {
 
     required property list<timeFrameChoice> choices
     required property int selected
+    /*! Whether the choices' shortcuts can be used. */
+    required property bool hasShortcuts
 
     signal picked(int value)
 
@@ -44,6 +46,8 @@ Column {
             onClicked: picker.picked(modelData.value)
 
             Shortcut {
+                context: Qt.ApplicationShortcut
+                enabled: picker.hasShortcuts
                 sequence: choice.modelData.shortcut
 
                 onActivated: choice.clicked()

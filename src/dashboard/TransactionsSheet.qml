@@ -15,6 +15,7 @@ Sheet {
     presented: content.showTransactions
     title: qsTr("Transactions")
 
+    onClosed: content.transactionsDidClose()
     onDismissed: content.showTransactions = false
 
     TransactionsView {

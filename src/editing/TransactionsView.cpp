@@ -25,9 +25,7 @@ Transaction& TransactionsView::transaction(int row) const {
 }
 
 void TransactionsView::edit(int row) {
-    // The form before may still be on its way out of the screen.
-    if (m_form)
-        m_form.release()->deleteLater();
+    m_formBefore = std::move(m_form);
     m_form = std::make_unique<AddTransactionView>(m_viewContext, &transaction(row));
     Q_EMIT formChanged();
 }

@@ -43,6 +43,8 @@ class TransactionsView : public LiveFetch {
 
     ManagedObjectContext& m_viewContext;
     std::unique_ptr<AddTransactionView> m_form;
+    // It may still be on its way out of the screen.
+    std::unique_ptr<AddTransactionView> m_formBefore;
 };
 
 } // namespace kovamo

@@ -41,6 +41,14 @@ class Visit {
             << name.toStdString();
         kovamo::click(*m_window, middle(named(*m_window, name, description)));
     }
+    void clickBesideTheSheet() { kovamo::click(*m_window, {200, 10}); }
+    /// Does `leave`, and while what it moves has hardly begun to, presses Ctrl and a key.
+    void catchWith(const std::function<void()>& leave, Qt::Key key) {
+        m_window->setProperty("reducedMotion", false);
+        leave();
+        m_window->setProperty("reducedMotion", true);
+        press(key, Qt::ControlModifier);
+    }
     void write(const QString& field, const QString& text) {
         click(field);
         type(text);
@@ -140,6 +148,34 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
     visit.write("Title", "?");
     visit.press(Qt::Key_Escape);
     EXPECT_EQ(record.title(), QStringLiteral("title!")) << "leaving the form keeps nothing";
+}
+
+TEST_F(App, GoesOnWithASheetThatIsCaughtOnItsWayOut) {
+    Book book({{300}});
+    Visit visit(book);
+    visit.press(Qt::Key_L, Qt::ControlModifier);
+    visit.click("title, earning, $300");
+    EXPECT_TRUE(visit.shows("Edit Transaction"));
+    visit.catchWith([&] { visit.clickBesideTheSheet(); }, Qt::Key_L);
+    visit.write("Title", "!");
+    visit.press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(visit.has("title!, earning, $300"));
+    visit.press(Qt::Key_Escape);
+
+    visit.press(Qt::Key_N, Qt::ControlModifier);
+    visit.write("Emoji", "☕");
+    visit.write("Title", "Coffee");
+    visit.catchWith([&] { visit.press(Qt::Key_Escape); }, Qt::Key_N);
+    visit.write("Amount", "4");
+    visit.catchWith([&] { visit.press(Qt::Key_S, Qt::ControlModifier); }, Qt::Key_N);
+    EXPECT_TRUE(visit.shows("Emoji")) << "what has been saved is not there to be saved again";
+    EXPECT_FALSE(visit.isEnabled("Save"));
+    visit.write("Title", "Tea");
+    visit.press(Qt::Key_Escape);
+    visit.press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_TRUE(visit.shows("New Transaction"));
+    EXPECT_TRUE(visit.hides("Tea"));
+    EXPECT_EQ(book.all().size(), 2U);
 }
 
 TEST_F(App, ShowsAllOfLargeText) {
