@@ -53,6 +53,7 @@ QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContex
             item->setProperty(property, value);
     };
     const auto call = [&](const char* property, const char* method) {
+        settle();
         QMetaObject::invokeMethod(itemWith(window.contentItem(), property), method);
     };
     return {
@@ -75,7 +76,6 @@ QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContex
         {"calendar",
          [set, call] {
              set("choosesEmoji", false);
-             settle();
              call("unfolded", "toggle");
          }},
         {"recurring-transaction", [&] { content.addForm()->setIsRecurring(true); }},

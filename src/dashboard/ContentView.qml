@@ -9,8 +9,7 @@ FocusScope {
 
     required property ContentState content
     readonly property real contentWidth: Math.min(width, 700)
-    /*! Whether a sheet is open. One that is on its way out can be called back: the toolkit would keep
-        the window's shortcuts from what is behind it, or not, by when its controls were loaded. */
+    /*! Whether a sheet is open; one that is on its way out can be called back. */
     readonly property bool isCovered: content.showAddTransaction || content.showTransactions
 
     Component.onCompleted: content.appear()
@@ -19,6 +18,8 @@ FocusScope {
         anchors.fill: parent
         color: SystemColors.background
     }
+    // The window's own shortcuts would rest under a sheet, or not, by when the toolkit's controls
+    // were loaded.
     Shortcut {
         context: Qt.ApplicationShortcut
         enabled: !screen.isCovered

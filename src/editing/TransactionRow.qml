@@ -40,7 +40,7 @@ Item {
         anchors.verticalCenterOffset: row.stacked ? -amountText.height / 2 : 0
         maximumLineCount: TextStyles.isLarge ? 3 : 1
         text: row.line.title
-        width: Math.min(Math.ceil(implicitWidth), row.stacked ? row.room : row.roomBeside)
+        width: Math.min(implicitWidth, row.stacked ? row.room : row.roomBeside)
         wrapMode: TextStyles.isLarge ? Text.Wrap : Text.NoWrap
     }
     SystemImage {

@@ -109,10 +109,9 @@ Store::Store(const QString& path, const EntityDescription& entity)
 Store::~Store() {
     try {
         m_copy.reset();
-        m_statements.reset();
         if (!m_wasWritten || !faultOf(*m_database).isEmpty())
             return;
-        // Who reads or writes at this moment has a log of its own to seal.
+        // Where another process is at it, the log stays, and nothing is sealed.
         m_database->setBusyTimeout(0);
         m_database->exec("PRAGMA wal_checkpoint(TRUNCATE)");
         seal(*m_database, m_path);
