@@ -1,5 +1,6 @@
 #include "SampleData.h"
 
+#include "model/PersistenceController.h"
 #include "model/Transaction.h"
 #include "platform/foundation/Calendar.h"
 
@@ -89,7 +90,11 @@ void addSampleData(ManagedObjectContext& context) {
         transaction.setEndDate(
             calendar.instant({today.year, month + (recurs ? sample.months : 0), sample.day}, noon));
     }
-    context.save();
+    try {
+        context.save();
+    } catch (const StoreError& error) {
+        unresolvedError(error);
+    }
 }
 
 } // namespace kovamo

@@ -4,7 +4,8 @@
 
 namespace kovamo {
 
-/// Saves some forty transactions of every kind around today into `context`.
+/// Saves some forty transactions of every kind around today into `context`. A failed save is a
+/// fatal error.
 void addSampleData(ManagedObjectContext& context);
 
 } // namespace kovamo

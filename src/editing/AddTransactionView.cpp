@@ -3,19 +3,11 @@
 #include "model/PersistenceController.h"
 #include "platform/foundation/NotificationCenter.h"
 
-#include <algorithm>
+#include <utility>
 
 namespace kovamo {
 
 namespace {
-
-double milliseconds(Instant instant) {
-    return static_cast<double>(instant.time_since_epoch().count());
-}
-
-Instant instantOf(double milliseconds) {
-    return Instant(std::chrono::milliseconds(static_cast<std::int64_t>(milliseconds)));
-}
 
 QString onlyDigits(QString text) {
     return text.removeIf([](QChar character) { return character < u'0' || character > u'9'; });
@@ -111,19 +103,19 @@ void AddTransactionView::setSelectedType(const QString& type) {
 }
 
 double AddTransactionView::startDate() const {
-    return milliseconds(m_startDate);
+    return momentOf(m_startDate);
 }
 
-void AddTransactionView::setStartDate(double milliseconds) {
-    assign(m_startDate, instantOf(milliseconds), &AddTransactionView::startDateChanged);
+void AddTransactionView::setStartDate(double moment) {
+    assign(m_startDate, instantOf(moment), &AddTransactionView::startDateChanged);
 }
 
 double AddTransactionView::endDate() const {
-    return milliseconds(m_endDate);
+    return momentOf(m_endDate);
 }
 
-void AddTransactionView::setEndDate(double milliseconds) {
-    assign(m_endDate, instantOf(milliseconds), &AddTransactionView::endDateChanged);
+void AddTransactionView::setEndDate(double moment) {
+    assign(m_endDate, instantOf(moment), &AddTransactionView::endDateChanged);
 }
 
 bool AddTransactionView::canSave() const {
@@ -131,22 +123,23 @@ bool AddTransactionView::canSave() const {
 }
 
 void AddTransactionView::save() {
-    if (!canSave())
+    // The form can still be reached while it moves off the screen.
+    if (!canSave() || std::exchange(m_isSaved, true))
         return;
-    Transaction& transaction =
-        m_existingTransaction ? *m_existingTransaction : m_viewContext.insert<Transaction>();
-    if (!m_existingTransaction)
-        transaction.setId(QUuid::createUuid());
-    transaction.setTimestamp(Clock::now());
-    transaction.setAmount(parsedAmount(m_amount));
-    transaction.setIsPositive(m_selectedPositive == positiveTypes().front());
-    transaction.setIsRecurring(m_isRecurring);
-    transaction.setRecurringType(m_selectedType.toLower());
-    transaction.setTitle(m_title);
-    transaction.setEmoji(m_emoji);
-    transaction.setStartDate(m_startDate);
-    transaction.setEndDate(m_endDate);
     try {
+        Transaction& transaction =
+            m_existingTransaction ? *m_existingTransaction : m_viewContext.insert<Transaction>();
+        if (!m_existingTransaction)
+            transaction.setId(QUuid::createUuid());
+        transaction.setTimestamp(Clock::now());
+        transaction.setAmount(parsedAmount(m_amount));
+        transaction.setIsPositive(m_selectedPositive == positiveTypes().front());
+        transaction.setIsRecurring(m_isRecurring);
+        transaction.setRecurringType(m_selectedType.toLower());
+        transaction.setTitle(m_title);
+        transaction.setEmoji(m_emoji);
+        transaction.setStartDate(m_startDate);
+        transaction.setEndDate(m_endDate);
         m_viewContext.save();
     } catch (const StoreError& error) {
         unresolvedError(error);

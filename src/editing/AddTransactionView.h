@@ -14,7 +14,7 @@ namespace kovamo {
 [[nodiscard]] QString transactionRefresh();
 
 /// The form through which a transaction is recorded or changed. It holds a copy of every field;
-/// nothing of it reaches the store before save(). Moments are milliseconds since 1970 UTC.
+/// nothing of it reaches the store before save(). Dates are moments, as momentOf() makes them.
 class AddTransactionView : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(AddTransactionState)
@@ -64,17 +64,17 @@ class AddTransactionView : public QObject {
     void setSelectedType(const QString& type);
 
     [[nodiscard]] double startDate() const;
-    void setStartDate(double milliseconds);
+    void setStartDate(double moment);
 
     [[nodiscard]] double endDate() const;
-    void setEndDate(double milliseconds);
+    void setEndDate(double moment);
 
     /// Whether emoji, title and amount are filled; a blank is.
     [[nodiscard]] bool canSave() const;
 
     /// Writes the fields into the record, saves the context, posts transactionRefresh() and asks
-    /// to be dismissed. Does nothing while canSave() is false. An amount beyond 32 bits and a
-    /// failed save are fatal errors.
+    /// to be dismissed. Does nothing while canSave() is false, nor a second time. An amount beyond
+    /// 32 bits and a failed save are fatal errors.
     Q_INVOKABLE void save();
 
   Q_SIGNALS:
@@ -99,6 +99,7 @@ class AddTransactionView : public QObject {
     QString m_title;
     QString m_amount;
     bool m_isRecurring = false;
+    bool m_isSaved = false;
     Instant m_startDate;
     Instant m_endDate;
     Transaction* m_existingTransaction;

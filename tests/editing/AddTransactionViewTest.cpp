@@ -67,7 +67,8 @@ TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
         });
     QObject::connect(&form, &AddTransactionView::dismissed, [&] { order += "closed"; });
     form.save();
-    EXPECT_EQ(order, "told closed");
+    form.save();
+    EXPECT_EQ(order, "told closed") << "pressed again on its way out, it saves nothing";
 
     const Transaction& saved = *book.all().at(0);
     EXPECT_TRUE(saved.id());
@@ -111,6 +112,11 @@ TEST(AddTransactionViewDeathTest, StopsOverWhatItCannotKeep) {
     Transaction& record = *book.all().at(0);
     record.setEndDate({});
     EXPECT_DEATH(AddTransactionView(book.context, &record), "has no endDate");
+
+    AddTransactionView lost(book.context);
+    fill(lost, "1");
+    book.elsewhere("DROP TABLE \"Transaction\"");
+    EXPECT_DEATH(lost.save(), "Unresolved error");
 }
 
 } // namespace

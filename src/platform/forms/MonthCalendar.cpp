@@ -2,7 +2,6 @@
 
 #include "platform/foundation/Formatters.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace kovamo {
@@ -10,14 +9,6 @@ namespace kovamo {
 namespace {
 
 constexpr int daysOfWeek = 7, cells = 6 * daysOfWeek;
-
-Instant instantOf(double moment) {
-    return Instant(std::chrono::milliseconds(static_cast<std::int64_t>(std::llround(moment))));
-}
-
-double momentOf(Instant instant) {
-    return static_cast<double>(instant.time_since_epoch().count());
-}
 
 } // namespace
 
@@ -88,7 +79,8 @@ void MonthCalendar::nextMonth() {
 
 void MonthCalendar::moveCursor(int days) {
     const CalendarDay target{m_cursor.year, m_cursor.month, m_cursor.day + days};
-    if (!isBeforeMinimum(target))
+    // From before the minimum, the way forward leads out.
+    if (days > 0 || !isBeforeMinimum(target))
         show(target);
 }
 

@@ -1,5 +1,6 @@
 #include "Clock.h"
 
+#include <cmath>
 #include <utility>
 
 namespace kovamo {
@@ -12,6 +13,14 @@ Clock::Source& currentSource() {
 }
 
 } // namespace
+
+double momentOf(Instant instant) {
+    return static_cast<double>(instant.time_since_epoch().count());
+}
+
+Instant instantOf(double moment) {
+    return Instant(std::chrono::milliseconds(std::llround(moment)));
+}
 
 Instant Clock::now() {
     if (const auto& source = currentSource())

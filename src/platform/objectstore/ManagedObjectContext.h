@@ -37,7 +37,8 @@ class ManagedObjectContext : public QObject {
 
     [[nodiscard]] const EntityDescription& entity() const { return m_entity; }
 
-    /// A new record of the kind that `T` stands for, pending until the next save.
+    /// A new record of the kind that `T` stands for, pending until the next save. Throws StoreError
+    /// when the store cannot be read.
     template<typename T>
     T& insert() {
         return static_cast<T&>(insertObject());

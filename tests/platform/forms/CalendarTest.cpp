@@ -37,6 +37,7 @@ TEST(MonthCalendar, FollowsTheLocalesCalendarWeekAndDigits) {
         {"fa_IR.UTF-8", "۱۴۰۳ اردیبهشت", "2024-04-20", "۱", 0},
         {"ar_EG.UTF-8", "مايو ٢٠٢٤", "2024-05-01", "١", 4},
         {"C", "May 2024", "2024-05-01", "1", 3},
+        {"sr_RS.UTF-8@latin", "maj 2024.", "2024-05-01", "1", 2},
     };
     for (const auto& [locale, title, firstDay, firstText, firstCell] : cases) {
         const World world("2024-05-15 10:20", "Europe/Berlin", locale);
@@ -85,6 +86,10 @@ TEST(MonthCalendar, OffersNothingBeforeTheDayOfTheMinimum) {
         calendar.moveCursor(days);
         EXPECT_EQ(calendar.cursor(), 3 + 14);
     }
+    calendar.setMinimumMoment(moment("2024-05-20"));
+    calendar.moveCursor(1);
+    EXPECT_EQ(calendar.cursor(), 3 + 15) << "from before the minimum the way leads on";
+    calendar.reset();
     calendar.setMinimumMoment(std::nan(""));
     calendar.moveCursor(-15);
     EXPECT_EQ(calendar.title(), QStringLiteral("April 2024"));
