@@ -47,6 +47,9 @@ void LiveFetch::insert(const ManagedObject& object) {
     if (!matches(object))
         return;
     const int at = place(object);
+    // A record that nobody had announced yet was there at the last fetch already.
+    if (at > 0 && m_ids[static_cast<std::size_t>(at) - 1] == object.objectID())
+        return;
     beginInsertRows({}, at, at);
     m_ids.insert(m_ids.begin() + at, object.objectID());
     endInsertRows();

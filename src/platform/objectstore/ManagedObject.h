@@ -17,9 +17,6 @@ class ManagedObject {
 
     [[nodiscard]] ObjectID objectID() const { return m_objectID; }
 
-    /// Whether the record was deleted from its context, saved or not.
-    [[nodiscard]] bool isDeleted() const { return m_isDeleted; }
-
     /// The values of all attributes, in the entity's order.
     [[nodiscard]] std::span<const Value> values() const {
         if (m_values.empty() || m_isStale)

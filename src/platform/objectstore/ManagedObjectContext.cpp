@@ -43,17 +43,15 @@ std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request
 }
 
 std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchRequest& request) {
+    // Another process may delete what was found before it is read.
+    const std::unique_ptr<SQLite::Transaction> reading = m_store.readTransaction();
     const std::vector<ObjectID> ids = fetchIDs(request);
     std::vector<ManagedObject*> objects;
     objects.reserve(ids.size());
-    std::unique_ptr<SQLite::Transaction> reading;
     for (const ObjectID id : ids) {
         ManagedObject& found = object(id);
-        if (found.m_values.empty() || found.m_isStale) {
-            if (!reading)
-                reading = m_store.readTransaction();
+        if (found.m_values.empty() || found.m_isStale)
             read(found);
-        }
         objects.push_back(&found);
     }
     return objects;

@@ -160,6 +160,8 @@ StatementCache::Use Store::prepared(const QString& selection, const FetchRequest
         (void)m_entity.attributeIndex(descriptor.key);
     if (!request.sortDescriptors.empty())
         sql += u" ORDER BY " + sortKeys(request.sortDescriptors) + u",pk";
+    else if (request.fetchLimit)
+        sql += u" ORDER BY pk";
     if (request.fetchLimit)
         sql += u" LIMIT " + QString::number(*request.fetchLimit);
     StatementCache::Use statement = m_statements->use(sql);
@@ -236,9 +238,13 @@ QString Store::shared(const QString& text) {
     return m_texts.size() < most ? *m_texts.insert(text) : text;
 }
 
+ObjectID Store::largestID() const {
+    return integer(u"SELECT coalesce(max(pk), 0) FROM " + m_table.name);
+}
+
 ObjectID Store::unusedID() const {
-    return guarded(
-        m_path, [&] { return integer(u"SELECT coalesce(max(pk), 0) + 1 FROM " + m_table.name); });
+    const ObjectID now = Clock::now().time_since_epoch().count();
+    return guarded(m_path, [&] { return std::max(now, largestID() + 1); });
 }
 
 bool Store::keepCopy(int pages) {
@@ -280,7 +286,7 @@ bool Store::write(const ObjectChanges& changes) {
         const auto updating = m_statements->use(m_table.update);
         const auto deleting = m_statements->use(m_table.deletion);
         SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);
-        if (!changes.inserted.empty() && changes.inserted.front()->objectID() < unusedID())
+        if (!changes.inserted.empty() && changes.inserted.front()->objectID() <= largestID())
             return false;
         for (const ManagedObject* object : changes.inserted)
             put(*inserting, *object);

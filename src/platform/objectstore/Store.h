@@ -25,8 +25,6 @@ class Store {
     ~Store();
     Q_DISABLE_COPY_MOVE(Store)
 
-    [[nodiscard]] const QString& path() const { return m_path; }
-
     /// The identities of the matching records, ordered by the sort descriptors, then by identity.
     [[nodiscard]] std::vector<ObjectID> select(const FetchRequest& request) const;
 
@@ -41,7 +39,9 @@ class Store {
     /// no other such transaction lasts.
     [[nodiscard]] std::unique_ptr<SQLite::Transaction> readTransaction();
 
-    /// An identity that no stored record has: one above the largest.
+    /// An identity above that of every stored record. It grows with time, in milliseconds, so that
+    /// a deleted record's is not given to another one: a second process may still be at that
+    /// record.
     [[nodiscard]] ObjectID unusedID() const;
 
     /// Goes on with the copy that is kept of what is stored before the first write of a run, and
@@ -63,6 +63,7 @@ class Store {
     void prepareToWrite();
     [[nodiscard]] StatementCache::Use prepared(const QString& selection,
                                                const FetchRequest& request) const;
+    [[nodiscard]] ObjectID largestID() const;
     [[nodiscard]] std::int64_t integer(const QString& query) const;
     [[nodiscard]] QString shared(const QString& text);
 

@@ -23,7 +23,8 @@ QDir folderOf(const QString& storePath) {
 /// The names of the copies, newest first.
 QStringList copies(const QString& storePath) {
     const QFileInfo store(storePath);
-    const QString pattern = store.completeBaseName() + u"-*-*-*." + store.suffix();
+    const QString pattern =
+        store.completeBaseName() + u"-[0-9]*-[0-9][0-9]-[0-9][0-9]." + store.suffix();
     return folderOf(storePath).entryList({pattern}, QDir::Files, QDir::Name | QDir::Reversed);
 }
 

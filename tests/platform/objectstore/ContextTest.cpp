@@ -52,5 +52,17 @@ TEST(Context, MergesWhatAnotherWriterSaved) {
     EXPECT_EQ(Book().amounts(), (Amounts{5, 20, 3})) << "the edit was lost";
 }
 
+TEST(Context, KeepsAnotherWritersRecordApartFromADeletedOne) {
+    Book book({{1}, {2}}), other;
+    book.all()[1]->setTitle(QStringLiteral("edited"));
+    other.context.deleteObject(*other.all()[1]);
+    other.context.save();
+    World::setTime("2024-05-15 10:01");
+    other.add({3});
+    other.context.save();
+    book.context.save();
+    EXPECT_EQ(Book().amounts(), (Amounts{1, 2, 3}));
+}
+
 } // namespace
 } // namespace kovamo

@@ -24,6 +24,7 @@ TEST(LiveFetch, FollowsEveryChangeAsAFreshFetchWould) {
     Book book;
     const FetchRequest request = transactions(Predicate(QStringLiteral("isPositive == YES")),
                                               {{QStringLiteral("amount"), false}});
+    book.add({7});
     Rows rows(book.context, request);
     const QAbstractItemModelTester tester(&rows,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
