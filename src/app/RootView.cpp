@@ -2,7 +2,11 @@
 
 #include "engagement/ReviewHandler.h"
 #include "platform/foundation/Locale.h"
+#include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/UserDefaults.h"
+
+#include <QGuiApplication>
+#include <utility>
 
 namespace kovamo {
 
@@ -13,10 +17,16 @@ constexpr int onboardingPages = 4;
 } // namespace
 
 RootView::RootView(ManagedObjectContext& viewContext)
-    : m_onboardingFinished(UserDefaults::standard().boolean(onboardingFinishedKey())),
+    : m_today(Calendar().day(Clock::now())),
+      m_onboardingFinished(UserDefaults::standard().boolean(onboardingFinishedKey())),
       m_onboarding(onboardingPages),
       m_content(viewContext, &ReviewHandler::requestReviewIfAppropriate) {
     connect(&m_onboarding, &OnboardingView::finished, this, &RootView::finishOnboarding);
+    connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
+            [this](Qt::ApplicationState state) {
+                if (state == Qt::ApplicationActive)
+                    showToday();
+            });
 }
 
 QString RootView::onboardingFinishedKey() {
@@ -31,6 +41,13 @@ void RootView::finishOnboarding() {
     m_onboardingFinished = true;
     UserDefaults::standard().set(onboardingFinishedKey(), true);
     Q_EMIT onboardingFinishedChanged();
+}
+
+void RootView::showToday() {
+    const bool isElsewhere = followHostTimeZone();
+    const CalendarDay today = Calendar().day(Clock::now());
+    if (std::exchange(m_today, today) != today || isElsewhere)
+        NotificationCenter::defaultCenter().post(transactionRefresh());
 }
 
 } // namespace kovamo

@@ -2,6 +2,7 @@
 
 #include "dashboard/ContentView.h"
 #include "engagement/OnboardingView.h"
+#include "platform/foundation/Calendar.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -9,7 +10,8 @@
 namespace kovamo {
 
 /// What the window shows: the onboarding until the user has finished it once, the main screen from
-/// then on, also at later starts.
+/// then on, also at later starts. When the user comes back to the app on another day, or in another
+/// time zone, the screens are loaded anew.
 class RootView : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(RootState)
@@ -38,7 +40,9 @@ class RootView : public QObject {
 
   private:
     void finishOnboarding();
+    void showToday();
 
+    CalendarDay m_today;
     bool m_onboardingFinished;
     OnboardingView m_onboarding;
     ContentView m_content;

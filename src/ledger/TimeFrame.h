@@ -26,7 +26,8 @@ struct MonthSlot {
 };
 
 /// The bounds of `timeFrame` as of now, in the user's calendar and zone: from the first moment of
-/// the current month to one hour before the end of the frame's last month.
+/// the current month to one hour before the end of the frame's last month, or to now where the
+/// frame is none of the three.
 [[nodiscard]] Period periodBounds(TimeFrame timeFrame);
 
 /// How many months `timeFrame` has: 12, 3 or 1.

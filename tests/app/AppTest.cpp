@@ -58,6 +58,7 @@ class Visit {
         m_window->setProperty("textScale", 2);
         m_window->resize(width, m_window->height());
     }
+    [[nodiscard]] bool focusIsSeen() const { return m_window->activeFocusItem()->isVisible(); }
     [[nodiscard]] double scaleOf(const QString& text) const {
         return shown(*m_window, text)->scale();
     }
@@ -104,6 +105,7 @@ TEST_F(App, LeadsFromAFreshStartToTheFirstTransaction) {
         EXPECT_TRUE(visit.isEnabled("Save"));
         visit.click("Save");
         EXPECT_TRUE(visit.hides("New Transaction")) << "the sheet closes itself";
+        EXPECT_TRUE(visit.focusIsSeen());
         EXPECT_TRUE(visit.shows("Your Kovamo is negative 💔"));
         EXPECT_TRUE(visit.shows("<b>Coffee</b>")) << "a title is plain text";
         EXPECT_TRUE(visit.shows("- $125"));
@@ -125,6 +127,18 @@ TEST_F(App, ChangesTheTimeFrame) {
     visit.press(Qt::Key_3, Qt::ControlModifier);
     EXPECT_TRUE(visit.shows("05/01/24 - 04/30/25"));
     EXPECT_TRUE(visit.has("Your Kovamo is positive 👍. Balance $160"));
+}
+
+TEST_F(App, ShowsTheMonthToWhichTheUserComesBack) {
+    Book book({{300}, {20, "2024-06-02"}});
+    Visit visit(book);
+    EXPECT_TRUE(visit.has("Your Kovamo is positive 👍. Balance $300"));
+    World::setTime("2024-06-01 02:00");
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_TRUE(visit.has("Your Kovamo is positive 👍. Balance $20"));
+    qputenv("TZ", "America/New_York");
+    Q_EMIT qGuiApp->applicationStateChanged(Qt::ApplicationActive);
+    EXPECT_TRUE(visit.has("Your Kovamo is positive 👍. Balance $300")) << "where it is still May";
 }
 
 TEST_F(App, EditsARecordFromTheListOfAll) {

@@ -13,6 +13,7 @@ namespace kovamo {
 World::World(const char* local, const char* zone, const char* locale) {
     s_folder = m_folder.path();
     icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(zone));
+    qputenv("TZ", zone);
     qputenv("LC_ALL", locale);
     for (const char* variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
         const QString folder = m_folder.filePath(QString::fromLatin1(variable).toLower());

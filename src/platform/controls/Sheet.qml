@@ -21,7 +21,6 @@ Item {
     readonly property alias contentItem: loader.item
     /*! How far the sheet is open: 0 … 1. */
     readonly property alias position: layer.position
-    readonly property bool opened: layer.position === 1
     property Item focusedBefore: null
     readonly property Item overlay: T.Overlay.overlay
 
@@ -38,8 +37,9 @@ Item {
 
     function close() {
         popup.close();
-        if (sheet.focusedBefore !== null)
-            sheet.focusedBefore.forceActiveFocus(Qt.PopupFocusReason);
+        const before = sheet.focusedBefore;
+        if (before !== null)
+            (before.visible ? before : before.nextItemInFocusChain()).forceActiveFocus(Qt.PopupFocusReason);
         sheet.closed();
     }
 

@@ -15,6 +15,15 @@ void require(UErrorCode status) {
 
 } // namespace
 
+bool followHostTimeZone() {
+    std::unique_ptr<icu::TimeZone> host(icu::TimeZone::detectHostTimeZone());
+    const std::unique_ptr<icu::TimeZone> before(icu::TimeZone::createDefault());
+    if (!host || *host == *before)
+        return false;
+    icu::TimeZone::adoptDefault(host.release());
+    return true;
+}
+
 Calendar::Calendar() {
     UErrorCode status = U_ZERO_ERROR;
     m_fields.reset(icu::Calendar::createInstance(dateLocale(), status));

@@ -17,6 +17,10 @@ struct CalendarDay {
     friend auto operator<=>(const CalendarDay&, const CalendarDay&) = default;
 };
 
+/// Takes the time zone that the device has now, for all calendars and dates' texts from then on;
+/// until then they have that of the start. Returns whether it is another one than before.
+bool followHostTimeZone();
+
 /// The user's current calendar and time zone, as they are when the value is made. Months and
 /// hours out of range are normalised: month 13 is the first of the next year, hour -1 is 23:00 of
 /// the day before. An instant that the calendar cannot build is a fatal error.

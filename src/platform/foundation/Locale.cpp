@@ -34,8 +34,16 @@ bool isPlain(const icu::Locale& locale) {
 
 /// The locale of a name as somebody wrote it: of its language and country alone where ICU has no
 /// formatters for what follows them ("@calendar=…").
-icu::Locale named(const char* name) {
-    const icu::Locale whole = icu::Locale::createCanonical(name);
+icu::Locale named(QByteArray name) {
+    // ICU takes the C library's names but for its scripts, which to ICU belong behind the language.
+    constexpr std::pair<const char*, const char*> scripts[] = {
+        {"@latin", "_Latn"}, {"@cyrillic", "_Cyrl"}, {"@devanagari", "_Deva"}};
+    for (const auto& [modifier, script] : scripts)
+        if (const auto country = name.indexOf('_'); country > 0 && name.endsWith(modifier)) {
+            name.chop(static_cast<qsizetype>(std::strlen(modifier)));
+            name.insert(country, script);
+        }
+    const icu::Locale whole = icu::Locale::createCanonical(name.constData());
     for (const icu::Locale& locale : {whole, icu::Locale(whole.getLanguage(), whole.getCountry())})
         if (!locale.isBogus() && (isPlain(locale) || hasFormatters(locale)))
             return locale;
@@ -46,7 +54,7 @@ icu::Locale localeOf(const char* category) {
     for (const char* variable : {"LC_ALL", category, "LANG"}) {
         const QByteArray name = qgetenv(variable);
         if (!name.isEmpty() && name != "C" && !name.startsWith("C.") && name != "POSIX")
-            return named(name.constData());
+            return named(name);
         if (!name.isEmpty())
             break;
     }
