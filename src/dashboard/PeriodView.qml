@@ -35,6 +35,7 @@ Item {
         anchors.bottom: parent.bottom
         anchors.top: divider.bottom
         clip: true
+        highlightMoveDuration: 0
         model: period.isComplete ? period.content.filteredList : null
         reuseItems: true
         width: period.width

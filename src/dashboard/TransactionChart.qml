@@ -35,16 +35,20 @@ FocusScope {
         PlainText {
             Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
+            fits: true
             font: TextStyles.headline
             text: row.chart.title
             visible: text !== ""
+            width: Math.min(implicitWidth, parent.width)
         }
         EmphasizedText {
             Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
             color: SystemColors.gray
+            fits: true
             markup: row.chart.range
             textStyle: TextStyles.subheadline
+            width: Math.min(implicitWidth, parent.width)
         }
     }
     Focusable {
@@ -58,8 +62,9 @@ FocusScope {
             event.accepted = row.column >= 0;
             row.column = -1;
         }
-        Keys.onLeftPressed: row.step(LayoutMirroring.enabled ? 1 : -1)
-        Keys.onRightPressed: row.step(LayoutMirroring.enabled ? -1 : 1)
+        // Time runs to the right in every language's chart.
+        Keys.onLeftPressed: row.step(-1)
+        Keys.onRightPressed: row.step(1)
         activeFocusOnTab: true
         anchors.top: words.bottom
         focus: true

@@ -27,6 +27,7 @@ NavigationStack {
         Accessible.name: navigationTitle
         Accessible.role: Accessible.List
         clip: true
+        highlightMoveDuration: 0
         keyNavigationEnabled: true
         model: screen.transactions
         reuseItems: true
@@ -42,9 +43,6 @@ NavigationStack {
             focus: ListView.isCurrentItem
             implicitHeight: words.implicitHeight
 
-            // A row in waiting is nothing to a screen reader.
-            ListView.onPooled: visible = false
-            ListView.onReused: visible = true
             onActiveFocusChanged: if (activeFocus)
                 list.currentIndex = index
             onClicked: screen.open(index)

@@ -31,8 +31,8 @@ Row {
             opacity: 1
             text: index === 0 ? "1 star" : "%1 stars".arg(index + 1)
 
-            Keys.onLeftPressed: star.nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-            Keys.onRightPressed: star.nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onLeftPressed: star.nextItemInFocusChain(LayoutMirroring.enabled).forceActiveFocus(Qt.TabFocusReason)
+            Keys.onRightPressed: star.nextItemInFocusChain(!LayoutMirroring.enabled).forceActiveFocus(Qt.TabFocusReason)
             // The star that was left says so after the next has said that it is pointed at.
             onCandidateChanged: if (candidate || stars.pointedAt === index + 1)
                 stars.pointedAt = candidate ? index + 1 : 0

@@ -8,13 +8,8 @@ FocusScope {
 
     /*! The page at the bottom. */
     required property Component initialPage
-    readonly property alias currentPage: view.currentItem
     readonly property alias depth: view.depth
     readonly property bool canGoBack: view.depth > 1
-    /*! The buttons of the bar. */
-    property alias leading: bar.leading
-    property alias trailing: bar.trailing
-    readonly property alias barHeight: bar.height
     readonly property int direction: LayoutMirroring.enabled ? -1 : 1
 
     /*! Shows a page made of `page`, its properties set from `properties`. */
@@ -41,7 +36,9 @@ FocusScope {
         title: stack.titleOf(view.currentItem)
         width: parent.width
 
-        onBack: stack.pop()
+        // The button that has the focus goes with the page.
+        onBack: if (stack.pop())
+            view.forceActiveFocus(Qt.BacktabFocusReason)
     }
     T.StackView {
         id: view

@@ -29,9 +29,10 @@ FocusScope {
 
     /*! Lets the card go at `velocity` points a second downwards. */
     function release(velocity: real) {
+        const presented = layer.presented;
         if (layer.position - velocity * 0.2 / layer.travel < 0.6)
             layer.dismissed();
-        if (layer.presented)
+        if (layer.presented === presented)
             layer.settle();
     }
 

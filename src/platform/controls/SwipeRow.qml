@@ -21,6 +21,12 @@ DeletableRow {
         row.slide(0);
     }
 
+    function rest() {
+        row.offset = 0;
+        movement.stop();
+        row.visible = false;
+    }
+
     function showMenu() {
         menu.popup(row, row.width / 2, row.height / 2);
     }
@@ -49,6 +55,10 @@ DeletableRow {
     implicitHeight: Metrics.rowHeight
     width: ListView.view ? ListView.view.width : implicitWidth
 
+    // A row in waiting is nothing to a screen reader, and closed for its next record.
+    ListView.onPooled: row.rest()
+    ListView.onReused: row.visible = true
+
     NumberAnimation {
         id: movement
 
@@ -57,7 +67,7 @@ DeletableRow {
         property: "offset"
         target: row
 
-        onFinished: if (to === row.width)
+        onFinished: if (row.offset === row.width)
             row.deleteRequested()
     }
     Item {

@@ -45,8 +45,12 @@ Column {
                 text: qsTr("Previous month")
 
                 onClicked: grid.calendar.previousMonth()
+                onEnabledChanged: if (!enabled && focus)
+                    next.forceActiveFocus(Qt.TabFocusReason)
             }
             BarButton {
+                id: next
+
                 symbol: LayoutMirroring.enabled ? "chevron.left" : "chevron.right"
                 text: qsTr("Next month")
 

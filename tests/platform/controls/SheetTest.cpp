@@ -104,6 +104,12 @@ TEST(Sheet, CanBeTurnedBackOnItsWay) {
     EXPECT_TRUE(Stage::soon([&] { return stage.position() == 1; }));
     EXPECT_EQ(stage.item("page"), page) << "it was made anew";
     EXPECT_EQ(stage.log(), "");
+
+    stage.set("flag", false);
+    EXPECT_TRUE(Stage::soon([&] { return stage.position() < 0.9; }));
+    stage.drag(stage.item("stack")->mapToScene({200, 20}).toPoint(), {0, 20});
+    EXPECT_TRUE(Stage::soon([&] { return stage.log().ends_with("closed "); }))
+        << "what was held on its way goes on";
 }
 
 TEST(Sheet, IsACardOnAWideWindow) {
@@ -132,6 +138,7 @@ TEST(NavigationStack, GoesForwardAndBackAndKeepsThePagesBelow) {
         EXPECT_EQ(stage.get("depth", "stack"), QVariant(1));
         EXPECT_TRUE(stage.showing("First"));
         EXPECT_EQ(stage.get("place", "first"), QVariant(7));
+        EXPECT_TRUE(stage.item("first")->hasActiveFocus());
     }
 }
 

@@ -47,6 +47,24 @@ TEST(SwipeRow, OnceOpenDeletesOrCloses) {
     EXPECT_EQ(stage.log(), "clicked 1delete 0");
 }
 
+TEST(SwipeRow, IsClosedForTheNextRecordThatItShows) {
+    Stage stage(R"(
+        ListView {
+            anchors.fill: parent; reuseItems: true
+            model: ListModel { id: records; ListElement { n: 0 } ListElement { n: 1 } ListElement { n: 2 } }
+            delegate: SwipeRow {
+                required property int index
+                required property int n
+                onClicked: log += 'clicked ' + n
+                onDeleteRequested: records.remove(index)
+            }
+        })");
+    stage.drag({195, 20}, {-300, 0});
+    static_cast<void>(stage.window()->grabWindow());
+    stage.click({100, 60});
+    EXPECT_EQ(stage.log(), "clicked 2");
+}
+
 TEST(SwipeRow, ListensToTheKeyboardAndHasAMenu) {
     Stage stage(rows);
     stage.item("row1")->forceActiveFocus(Qt::TabFocusReason);
