@@ -105,7 +105,7 @@ int main(int argc, char** argv) {
         SystemColors::shared().setColorScheme(*options->appearance);
     DesktopSettings desktop(!options->appearance && !options->pictures);
 
-    if (options->isGallery)
+    if (options->isGallery && !options->pictures)
         return showGallery();
     std::optional<SoleInstance> instance;
     if (!scratch)

@@ -53,7 +53,7 @@ QRectF laidOnSide(const QRectF& frame, const QRectF& bounds) {
 
 std::optional<std::size_t> columnAt(double x, std::size_t count, double spacing,
                                     double totalWidth) {
-    if (count == 0 || !(x >= 0 && x <= totalWidth))
+    if (count == 0 || !(totalWidth > 0 && x >= 0 && x <= totalWidth))
         return {};
     const ColumnMetrics metrics = columnMetrics(count, spacing, totalWidth);
     const double slot = (x + metrics.spacing / 2) / (metrics.width + metrics.spacing);
@@ -62,6 +62,8 @@ std::optional<std::size_t> columnAt(double x, std::size_t count, double spacing,
 
 std::vector<QRectF> visibleColumnFrames(std::span<const ColumnData> columns, double spacing,
                                         const QRectF& bounds, double pixel) {
+    if (!(bounds.width() > 0))
+        return {};
     std::vector<QRectF> frames = columnFrames(columns, spacing, bounds);
     if (static_cast<double>(frames.size()) * pixel > 2 * bounds.width()) {
         const bool twoSided = hasNegative(columns);

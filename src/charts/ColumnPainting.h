@@ -6,8 +6,8 @@
 
 namespace kovamo {
 
-/// The frames of the columns worth painting with `painter`: see `visibleColumnFrames`, the
-/// resolution being half a pixel of the painter's device.
+/// The frames of the columns worth painting with `painter`: see `visibleColumnFrames`, with
+/// the pixel of the painter's device.
 [[nodiscard]] std::vector<QRectF> paintedColumnFrames(const QPainter& painter,
                                                       std::span<const ColumnData> columns,
                                                       double spacing, const QRectF& bounds);

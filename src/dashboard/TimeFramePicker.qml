@@ -54,6 +54,7 @@ Column {
             }
             Divider {
                 anchors.left: parent.left
+                anchors.verticalCenter: parent.verticalCenter
                 height: 50
                 vertical: true
                 visible: choice.index > 0

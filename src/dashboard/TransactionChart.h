@@ -61,7 +61,7 @@ class TransactionChart {
     [[nodiscard]] static double height();
 
     /// The transaction whose column is nearest to `x` points in a view `width` points wide; -1 for
-    /// an empty column.
+    /// an empty column and beside the chart.
     Q_INVOKABLE [[nodiscard]] int columnAt(double x, double width) const;
 
     /// Where the middle of a transaction's column is in such a view, in points.

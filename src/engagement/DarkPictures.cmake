@@ -1,6 +1,6 @@
 # dark_pictures(variable name …): makes of each picture in pictures/ the one that the dark appearance
 # shows, by exchanging the colours of its palette, and lists the files in the variable. A picture
-# uses no other colours than these.
+# uses no other colours than these and "white", which stays white.
 function(dark_pictures variable)
     set(palette
         "#F2F2F7>#000000" "#FFFFFF>#1C1C1E" "#1C1C1E>#FFFFFF" "#D9D9E0>#3A3A3C" "#8E8E93>#98989F"

@@ -13,7 +13,7 @@ namespace kovamo {
 
 namespace {
 
-constexpr std::int64_t startUpsBeforeAsking = 4;
+constexpr std::int64_t firstStartUpThatAsks = 4;
 constexpr std::chrono::seconds delay{2};
 
 QString bundleVersion() {
@@ -43,7 +43,7 @@ void ReviewHandler::requestReviewIfAppropriate() {
     const QString version = bundleVersion();
     // Nothing writes this key: how often a prompt shows is throttled by the platform alone.
     const auto lastPrompted = defaults.string(QStringLiteral("lastVersionPromptedForReviewKey"));
-    if (count >= startUpsBeforeAsking && lastPrompted != version)
+    if (count >= firstStartUpThatAsks && lastPrompted != version)
         MainQueue::asyncAfter(delay, requestReview);
 }
 

@@ -95,7 +95,9 @@ TEST(EveryStyle, BearsAnyDataWithoutPaintingBesideItsFrame) {
             const Chart chart(rows);
             for (const AnyView& styled :
                  {AnyView(chart), AnyView(chartStyle(chart, ColumnChartStyle{capsule, 2.})),
-                  AnyView(chartStyle(chart, LineChartStyle{LineType::line, red, 1}))}) {
+                  AnyView(chartStyle(chart, LineChartStyle{LineType::line, red, 1})),
+                  AnyView(chartStyle(chart, AreaChartStyle{LineType::line, capsule})),
+                  AnyView(chartStyle(chart, StackedAreaChartStyle{LineType::line, {red}}))}) {
                 const QImage image = raster(styled, {140, 90}, {20, 20, 100, 50});
                 EXPECT_FALSE(isPainted(image, {0, 0, 17, 90}) || isPainted(image, {123, 0, 17, 90}))
                     << hard;

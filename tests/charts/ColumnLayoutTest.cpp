@@ -75,7 +75,7 @@ TEST(ColumnAt, IsTheColumnWhoseFrameHoldsOrIsNearestToThePlace) {
     }
     for (const double outside : {-0.1, 350.1, std::nan("")})
         EXPECT_FALSE(columnAt(outside, 5, 2, 350)) << outside;
-    EXPECT_FALSE(columnAt(10, 0, 2, 350));
+    EXPECT_FALSE(columnAt(10, 0, 2, 350) || columnAt(0, 5, 2, 0));
 }
 
 TEST(VisibleFrames, OfACrowdKeepEveryPeakAtABoundedCost) {
@@ -96,6 +96,10 @@ TEST(VisibleFrames, OfACrowdKeepEveryPeakAtABoundedCost) {
         });
         ASSERT_TRUE(covered) << frame.x();
     }
+    const auto thin = visibleColumnFrames(columns(std::vector(170, 0.5)), 2, {20, 20, 350, 200}, 1);
+    EXPECT_EQ(thin.size(), 170U);
+    EXPECT_EQ(std::ranges::min(thin, {}, &QRectF::width).width(), 0.5);
+    EXPECT_TRUE(visibleColumnFrames(columns(values), 2, {0, 0, -10, 50}, 1).empty());
 }
 
 TEST(Bars, AreColumnsLaidOnTheirSide) {

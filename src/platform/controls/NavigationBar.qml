@@ -7,8 +7,6 @@ Item {
     property string title
     /*! True shows the back button. */
     property bool canGoBack: false
-    /*! True draws a hairline below the bar. */
-    property bool hasDivider: false
     /*! The buttons at the leading and at the trailing end. */
     property alias leading: leadingRow.data
     property alias trailing: trailingRow.data
@@ -53,10 +51,5 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Metrics.step
         anchors.verticalCenter: parent.verticalCenter
-    }
-    Divider {
-        anchors.bottom: parent.bottom
-        visible: bar.hasDivider
-        width: parent.width
     }
 }

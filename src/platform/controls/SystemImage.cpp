@@ -102,8 +102,6 @@ Symbol symbolNamed(const QString& name) {
         return {polyline({{15.5, 3.5}, {7.5, 12}, {15.5, 20.5}}), {}, {}};
     if (name == QLatin1String("chevron.right"))
         return {polyline({{8.5, 3.5}, {16.5, 12}, {8.5, 20.5}}), {}, {}};
-    if (name == QLatin1String("xmark"))
-        return {cross(7), {}, {}};
     if (name == QLatin1String("xmark.circle.fill"))
         return {{}, circle({12, 12}, 11), cross(3.7)};
     if (name == QLatin1String("trash"))

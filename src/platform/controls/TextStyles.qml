@@ -12,7 +12,6 @@ QtObject {
     readonly property bool isLarge: scale >= 1.5
 
     readonly property font largeTitle: styles.style(34, Font.Normal)
-    readonly property font title: styles.style(22, Font.Normal)
     readonly property font headline: styles.style(17, Font.DemiBold)
     readonly property font body: styles.style(17, Font.Normal)
     readonly property font subheadline: styles.style(15, Font.Normal)

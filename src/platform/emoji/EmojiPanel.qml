@@ -55,7 +55,6 @@ FocusScope {
             Keys.onEnterPressed: panel.pick(rows.cursorText)
             Keys.onReturnPressed: panel.pick(rows.cursorText)
             isFirst: true
-            isLast: true
             placeholder: qsTr("Search emoji")
             text: rows.query
 

@@ -44,7 +44,6 @@ Column {
         contentHeight: pill.height
         activeFocusOnTab: true
         isFirst: field.Positioner.isFirstItem
-        isLast: field.Positioner.isLastItem && !field.unfolded
         whole: field
 
         Accessible.onPressAction: field.toggle()

@@ -6,25 +6,16 @@ import Kovamo.Controls
 Focusable {
     id: row
 
-    /*! True while the row is pressed, where it can be. */
-    property bool highlighted: false
     /*! The height that the row's items need. */
     property real contentHeight: 0
     default property alias content: slot.data
     /*! What is to be in sight with the row. */
     property Item whole: row
     property bool isFirst: Positioner.isFirstItem
-    property bool isLast: Positioner.isLastItem
 
     implicitHeight: Math.max(Metrics.rowHeight, contentHeight + Metrics.step * 4)
     width: parent ? parent.width : implicitWidth
 
-    RowHighlight {
-        anchors.fill: parent
-        roundedBottom: row.isLast
-        roundedTop: row.isFirst
-        visible: row.highlighted
-    }
     Divider {
         anchors.left: parent.left
         anchors.leftMargin: Metrics.padding
