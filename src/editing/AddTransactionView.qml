@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Templates as T
 import Kovamo.Controls
 import Kovamo.Editing
 import Kovamo.Emoji
@@ -20,7 +21,8 @@ GroupedForm {
     navigationTitle: transaction.navigationTitle
 
     Shortcut {
-        enabled: form.transaction.canSave
+        // A form that moves off the screen leaves the key to the next one.
+        enabled: form.transaction.canSave && form.T.StackView.status >= T.StackView.Activating
         sequence: "Ctrl+S"
 
         onActivated: form.transaction.save()

@@ -162,6 +162,16 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
     visit.write("Title", "?");
     visit.press(Qt::Key_Escape);
     EXPECT_EQ(record.title(), QStringLiteral("title!")) << "leaving the form keeps nothing";
+
+    World::setTime("2024-05-17 10:00");
+    visit.press(Qt::Key_Return);
+    const auto comeBack = [&] {
+        visit.press(Qt::Key_Escape);
+        visit.press(Qt::Key_Return);
+    };
+    visit.catchWith(comeBack, Qt::Key_S);
+    EXPECT_EQ(book.all().at(1)->timestamp(), at("2024-05-17 10:00"))
+        << "of two forms, the one that comes";
 }
 
 TEST_F(App, GoesOnWithASheetThatIsCaughtOnItsWayOut) {
