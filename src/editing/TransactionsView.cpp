@@ -25,6 +25,8 @@ Transaction& TransactionsView::transaction(int row) const {
 }
 
 void TransactionsView::edit(int row) {
+    if (!transaction(row).exists())
+        return;
     m_formBefore = std::move(m_form);
     m_form = std::make_unique<AddTransactionView>(m_viewContext, &transaction(row));
     Q_EMIT formChanged();
@@ -46,8 +48,10 @@ void TransactionsView::remove(const QList<int>& rows) {
 QVariant TransactionsView::data(const QModelIndex& index, int role) const {
     if (role != LineRole)
         return {};
-    const TransactionPresentation presentation(transaction(index.row()));
-    return QVariant::fromValue(TransactionLine(presentation));
+    // What another process has just deleted goes from the list in a moment.
+    const Transaction& shown = transaction(index.row());
+    return QVariant::fromValue(shown.exists() ? TransactionLine(TransactionPresentation(shown))
+                                              : TransactionLine());
 }
 
 QHash<int, QByteArray> TransactionsView::roleNames() const {

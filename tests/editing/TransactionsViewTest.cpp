@@ -12,6 +12,21 @@ TEST(TransactionsView, DeletesEachRowOfTheListThatIsLeft) {
     EXPECT_EQ(Book().amounts(), (std::vector{4, 2, 1}));
 }
 
+TEST(TransactionsView, BearsThatWhatItShowsIsDeletedElsewhere) {
+    const Book elsewhere({{5}, {4}, {3}});
+    Book book;
+    book.context.setAutomaticallyMergesChangesFromParent(true);
+    TransactionsView screen(book.context);
+    elsewhere.elsewhere("DELETE FROM \"Transaction\" WHERE amount = 4");
+    const QVariant line = screen.data(screen.index(1), TransactionsView::LineRole);
+    EXPECT_EQ(line.value<TransactionLine>().title, QString());
+    screen.edit(1);
+    EXPECT_EQ(screen.form(), nullptr);
+    static_cast<Transaction&>(screen.object(0)).setAmount(2);
+    book.context.save();
+    EXPECT_EQ(Book().amounts(), (std::vector{2, 3}));
+}
+
 TEST(TransactionsViewDeathTest, StopsOverARecordThatCannotBeShown) {
     Book book({{5}});
     book.all().at(0)->setEmoji({});

@@ -6,13 +6,18 @@
 
 namespace kovamo {
 
-void ManagedObject::read() const {
+bool ManagedObject::exists() const {
     try {
-        m_context.read(*this);
+        return (!m_values.empty() && !m_isStale) || m_context.read(*this);
     } catch (const StoreError& error) {
         fatalError(QStringLiteral("A record cannot be read: %1, %2")
                        .arg(error.description(), error.userInfoDescription()));
     }
+}
+
+void ManagedObject::require() const {
+    if (!exists())
+        fatalError(QStringLiteral("There is no record %1").arg(m_objectID));
 }
 
 void ManagedObject::setValue(std::size_t index, Value value) {

@@ -17,10 +17,14 @@ class ManagedObject {
 
     [[nodiscard]] ObjectID objectID() const { return m_objectID; }
 
-    /// The values of all attributes, in the entity's order.
+    /// Whether the record has values; it has none where another writer deleted it before they were
+    /// read.
+    [[nodiscard]] bool exists() const;
+
+    /// The values of all attributes, in the entity's order. Requires: the record exists.
     [[nodiscard]] std::span<const Value> values() const {
         if (m_values.empty() || m_isStale)
-            read();
+            require();
         return m_values;
     }
 
@@ -53,7 +57,7 @@ class ManagedObject {
   private:
     friend class ManagedObjectContext;
 
-    void read() const;
+    void require() const;
 
     ManagedObjectContext& m_context;
     ObjectID m_objectID;

@@ -87,14 +87,12 @@ ManagedObject& ManagedObjectContext::object(ObjectID id) {
     return *object;
 }
 
-void ManagedObjectContext::read(const ManagedObject& object) {
+bool ManagedObjectContext::read(const ManagedObject& object) {
     std::vector<Value> values = m_store.read(object.objectID());
-    if (values.empty() && object.m_values.empty())
-        throw StoreError(QStringLiteral("There is no such record"),
-                         {{QStringLiteral("pk"), QString::number(object.objectID())}});
     object.m_isStale = false;
     if (!values.empty())
         object.m_values = std::move(values);
+    return !object.m_values.empty();
 }
 
 ManagedObject& ManagedObjectContext::insertObject() {
@@ -136,9 +134,10 @@ bool ManagedObjectContext::hasChanges() const {
 }
 
 void ManagedObjectContext::save() {
-    announce();
     if (m_unsaved.isEmpty())
-        return;
+        return announce();
+    mergeChanges();
+    announce();
     while (!m_store.write(m_unsaved))
         renumberInserted();
     for (ManagedObject* object : m_unsaved.inserted)

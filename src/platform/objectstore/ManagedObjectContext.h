@@ -90,7 +90,8 @@ class ManagedObjectContext : public QObject {
 
     [[nodiscard]] std::vector<ManagedObject*> fetchObjects(const FetchRequest& request);
     ManagedObject& insertObject();
-    void read(const ManagedObject& object);
+    /// Reads an object's values; returns whether it has any.
+    bool read(const ManagedObject& object);
     void didUpdate(ManagedObject& object);
     void announceLater(std::vector<ManagedObject*>& changes, ManagedObject& object);
     void announceLater();

@@ -55,7 +55,9 @@ bool isEmptied(const QString& path) {
     const QFileInfo file(path);
     if (!file.exists())
         QFile::remove(sealPath(path));
-    return file.isFile() && file.size() == 0 && QFile::exists(sealPath(path));
+    // SQLite would take a log away from beside an empty file.
+    return file.isFile() && file.size() == 0 &&
+           (QFile::exists(sealPath(path)) || QFileInfo(path + u"-wal").size() > 0);
 }
 
 void seal(SQLite::Database& database, const QString& path) {

@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
+#include <limits>
 #include <sqlite3.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -90,18 +91,18 @@ Store::Store(const QString& path, const EntityDescription& entity)
         m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
                            busyTimeoutMilliseconds);
         m_statements.emplace(*m_database);
-        sqlite3* handle = m_database->getHandle();
         // A misspelt column must be an error, never a text constant.
-        sqlite3_db_config(handle, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+        sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
         // A store that is refused must not be written to when it is closed again.
-        sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        checkpointOnClose(false);
         refuseNewer();
         refuseDamaged();
+        // Until the log is in use, a journal that is gone must be gone from the disk, too.
+        m_database->exec("PRAGMA synchronous = EXTRA");
         createSchema();
         // Fails where the table lacks a column, and so before anything is written.
         (void)m_statements->use(m_table.selection);
-        m_database->exec("PRAGMA synchronous = FULL");
-        sqlite3_db_config(handle, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
+        checkpointOnClose(true);
         (void)changedElsewhere();
     });
 }
@@ -109,8 +110,13 @@ Store::Store(const QString& path, const EntityDescription& entity)
 Store::~Store() {
     try {
         m_copy.reset();
-        if (!m_wasWritten || !faultOf(*m_database).isEmpty())
+        if (!m_wasWritten)
             return;
+        // What has been damaged meanwhile is left as it is.
+        checkpointOnClose(false);
+        if (!faultOf(*m_database).isEmpty())
+            return;
+        checkpointOnClose(true);
         // Where another process is at it, the log stays, and nothing is sealed.
         m_database->setBusyTimeout(0);
         m_database->exec("PRAGMA wal_checkpoint(TRUNCATE)");
@@ -118,6 +124,11 @@ Store::~Store() {
     } catch (const SQLite::Exception&) {
         // Without a seal, the next opening looks for itself.
     }
+}
+
+void Store::checkpointOnClose(bool checkpoints) {
+    sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE,
+                      checkpoints ? 0 : 1, nullptr);
 }
 
 void Store::refuseNewer() const {
@@ -244,7 +255,12 @@ ObjectID Store::largestID() const {
 
 ObjectID Store::unusedID() const {
     const ObjectID now = Clock::now().time_since_epoch().count();
-    return guarded(m_path, [&] { return std::max(now, largestID() + 1); });
+    return guarded(m_path, [&] {
+        const ObjectID largest = std::max(largestID(), m_largestDeleted);
+        if (largest == std::numeric_limits<ObjectID>::max())
+            fail(QStringLiteral("There is no identity left"), SQLITE_FULL, m_path);
+        return std::max(now, largest + 1);
+    });
 }
 
 bool Store::keepCopy(int pages) {
@@ -266,7 +282,7 @@ bool Store::keepCopy(int pages) {
 
 void Store::prepareToWrite() {
     keepCopy(-1);
-    if (std::exchange(m_wasWritten, true))
+    if (m_wasWritten)
         return;
     // Where two writers do this at once, SQLite refuses one of them instead of letting it wait.
     const auto setMode = [&] { return m_database->tryExec("PRAGMA journal_mode = WAL"); };
@@ -277,6 +293,7 @@ void Store::prepareToWrite() {
     if (code != SQLITE_OK)
         fail(QString::fromUtf8(m_database->getErrorMsg()), m_database->getExtendedErrorCode(),
              m_path);
+    m_wasWritten = true;
 }
 
 bool Store::write(const ObjectChanges& changes) {
@@ -297,6 +314,7 @@ bool Store::write(const ObjectChanges& changes) {
             deleting->bind(1, object->objectID());
             deleting->exec();
             deleting->reset();
+            m_largestDeleted = std::max(m_largestDeleted, object->objectID());
         }
         transaction.commit();
         return true;

@@ -57,6 +57,7 @@ class Store {
     [[nodiscard]] bool changedElsewhere();
 
   private:
+    void checkpointOnClose(bool checkpoints);
     void refuseNewer() const;
     void refuseDamaged() const;
     void createSchema();
@@ -75,6 +76,7 @@ class Store {
     std::optional<StoreCopy> m_copy;
     std::optional<CalendarDay> m_dayOfCopy;
     bool m_wasWritten = false;
+    ObjectID m_largestDeleted = 0;
     int m_lastDataVersion = 0;
     // Texts that many records have in common are held once.
     QSet<QString> m_texts;

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
 #include <sqlite3.h>
@@ -28,10 +29,15 @@ QStringList copies(const QString& storePath) {
     return folderOf(storePath).entryList({pattern}, QDir::Files, QDir::Name | QDir::Reversed);
 }
 
-QString copyOfDay(const QString& storePath, Instant now) {
+QString copyOfToday(const QString& storePath) {
     const QFileInfo store(storePath);
-    return folderOf(storePath).filePath(store.completeBaseName() + u'-' + dayText(now) + u'.' +
-                                        store.suffix());
+    return store.completeBaseName() + u'-' + dayText(Clock::now()) + u'.' + store.suffix();
+}
+
+/// How many of the copies' names are of days to come: the clock was ahead once, or is behind now.
+qsizetype copiesToCome(const QStringList& names, const QString& storePath) {
+    const QString today = copyOfToday(storePath);
+    return std::ranges::count_if(names, [&](const QString& name) { return name > today; });
 }
 
 [[noreturn]] void fail(const char* what) {
@@ -99,21 +105,24 @@ void StoreCopy::publish() {
     m_backup.reset();
     m_target.reset();
     completeAlone(m_unfinished.path);
-    const QString path = copyOfDay(m_storePath, Clock::now());
+    QDir folder = folderOf(m_storePath);
+    const QString path = folder.filePath(copyOfToday(m_storePath));
     if (std::rename(QFile::encodeName(m_unfinished.path).constData(),
                     QFile::encodeName(path).constData()) != 0)
         fail("The copy cannot be given its name");
-    QDir folder = folderOf(m_storePath);
-    for (const QString& old : copies(m_storePath).mid(keptCopies))
-        if (folder.filePath(old) != path)
-            folder.remove(old);
+    const QStringList names = copies(m_storePath);
+    const qsizetype toCome = copiesToCome(names, m_storePath);
+    for (const QString& old : names.first(toCome).mid(keptCopies) + names.mid(toCome + keptCopies))
+        folder.remove(old);
     syncFolder(folder.path());
 }
 
 std::optional<QString> StoreCopy::newest(const QString& storePath) {
     const QStringList names = copies(storePath);
-    return names.isEmpty() ? std::nullopt
-                           : std::optional(folderOf(storePath).filePath(names.front()));
+    if (names.isEmpty())
+        return {};
+    const qsizetype toCome = copiesToCome(names, storePath);
+    return folderOf(storePath).filePath(names[toCome < names.size() ? toCome : 0]);
 }
 
 } // namespace kovamo

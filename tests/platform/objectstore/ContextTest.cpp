@@ -53,15 +53,18 @@ TEST(Context, MergesWhatAnotherWriterSaved) {
 }
 
 TEST(Context, KeepsAnotherWritersRecordApartFromADeletedOne) {
-    Book book({{1}, {2}}), other;
-    book.all()[1]->setTitle(QStringLiteral("edited"));
-    other.context.deleteObject(*other.all()[1]);
-    other.context.save();
-    World::setTime("2024-05-15 10:01");
-    other.add({3});
-    other.context.save();
-    book.context.save();
-    EXPECT_EQ(Book().amounts(), (Amounts{1, 2, 3}));
+    for (const char* later : {"2024-05-15 10:01", "2024-05-15 09:00"}) {
+        const World world;
+        Book book({{1}, {2}}), other;
+        book.all()[1]->setTitle(QStringLiteral("edited"));
+        other.context.deleteObject(*other.all()[1]);
+        other.context.save();
+        World::setTime(later);
+        other.add({3});
+        other.context.save();
+        book.context.save();
+        EXPECT_EQ(Book().amounts(), (Amounts{1, 2, 3})) << later;
+    }
 }
 
 } // namespace

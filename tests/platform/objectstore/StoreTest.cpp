@@ -68,6 +68,10 @@ TEST(Store, RefusesWhatIsNotItsOwnAndLeavesItAlone) {
         EXPECT_TRUE(failure().contains(QLatin1String(description))) << sql;
         EXPECT_EQ(content(path), before) << sql;
     }
+    QFile::remove(path + u"-seal");
+    ASSERT_TRUE(QFile::resize(path, 0) && QFile::copy("/proc/self/exe", path + u"-wal"));
+    EXPECT_EQ(failure(), u"The store has lost its content") << "what its log holds is left alone";
+    ASSERT_TRUE(QFile::remove(path + u"-wal"));
     ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path));
     EXPECT_EQ(failure(), u"Is a directory");
     ASSERT_TRUE(QDir().rmdir(path));
