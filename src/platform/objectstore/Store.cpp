@@ -3,6 +3,7 @@
 #include "ManagedObjectContext.h"
 #include "Soundness.h"
 #include "StoreError.h"
+#include "StoreFile.h"
 #include "StoredValue.h"
 #include "platform/foundation/RadixSort.h"
 
@@ -10,13 +11,8 @@
 #include <QFileInfo>
 #include <QThread>
 #include <algorithm>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
 #include <limits>
 #include <sqlite3.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace kovamo {
@@ -25,11 +21,6 @@ namespace {
 
 constexpr int schemaVersion = 1;
 constexpr int busyTimeoutMilliseconds = 5000;
-
-[[noreturn]] void fail(const QString& description, int code, const QString& path) {
-    throw StoreError(description, {{QStringLiteral("code"), QString::number(code)},
-                                   {QStringLiteral("path"), path}});
-}
 
 /// Runs `work` and throws what SQLite throws as a StoreError.
 template<typename Work>
@@ -43,30 +34,6 @@ auto guarded(const QString& path, Work work) {
 
 std::string utf8(const QString& text) {
     return text.toStdString();
-}
-
-/// Makes the folder and an empty file where there is none. The file is made before SQLite opens
-/// it because SQLite gives its side files the permissions of the main one.
-void makeFile(const QString& path) {
-    const QByteArray folder = QFileInfo(path).path().toLocal8Bit();
-    for (qsizetype slash = 1; slash > 0;) {
-        slash = folder.indexOf('/', slash + 1);
-        const QByteArray ancestor = slash < 0 ? folder : folder.first(slash);
-        if (::mkdir(ancestor.constData(), 0700) != 0 && errno != EEXIST)
-            fail(QString::fromLocal8Bit(std::strerror(errno)), errno, path);
-    }
-    // One that is there is SQLite's alone: to open and close it here would give up its locks.
-    const QByteArray name = path.toLocal8Bit();
-    const int file = ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
-    int code = file < 0 ? errno : 0;
-    if (file >= 0)
-        ::close(file);
-    if (code == EEXIST)
-        code = QFileInfo(path).isDir()                   ? EISDIR
-               : ::access(name.constData(), R_OK | W_OK) ? errno
-                                                         : 0;
-    if (code != 0)
-        fail(QString::fromLocal8Bit(std::strerror(code)), code, path);
 }
 
 /// Runs a statement with the record's values and its identity; returns how many rows it changed.
@@ -86,7 +53,7 @@ Store::Store(const QString& path, const EntityDescription& entity)
     : m_path(path), m_entity(entity), m_table(entity) {
     if (isEmptied(path))
         fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path);
-    makeFile(path);
+    makeStoreFile(path);
     guarded(path, [&] {
         m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
                            busyTimeoutMilliseconds);

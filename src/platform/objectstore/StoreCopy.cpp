@@ -1,5 +1,6 @@
 #include "StoreCopy.h"
 
+#include "StoreFile.h"
 #include "platform/foundation/Formatters.h"
 
 #include <QCoreApplication>
@@ -55,13 +56,6 @@ void completeAlone(const QString& path) {
     ::close(file);
     if (!isComplete)
         fail("The copy cannot be completed");
-}
-
-/// Makes what was done to the names in a folder last.
-void syncFolder(const QString& folder) {
-    const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
-    ::fsync(file);
-    ::close(file);
 }
 
 } // namespace

@@ -25,4 +25,7 @@ class StoreError : public std::exception {
     std::map<QString, QString> m_userInfo;
 };
 
+/// Throws the StoreError of a file: what went wrong, the system's or SQLite's code, and the file.
+[[noreturn]] void fail(const QString& description, int code, const QString& path);
+
 } // namespace kovamo

@@ -1,0 +1,52 @@
+#include "StoreFile.h"
+
+#include "StoreError.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace kovamo {
+
+namespace {
+
+void makeFolder(const QString& folder, const QString& path) {
+    if (QFileInfo::exists(folder))
+        return;
+    const QString parent = QFileInfo(folder).path();
+    makeFolder(parent, path);
+    if (::mkdir(QFile::encodeName(folder).constData(), 0700) == 0)
+        syncFolder(parent);
+    else if (errno != EEXIST)
+        fail(QString::fromLocal8Bit(std::strerror(errno)), errno, path);
+}
+
+} // namespace
+
+void makeStoreFile(const QString& path) {
+    makeFolder(QFileInfo(path).path(), path);
+    // One that is there is SQLite's alone: to open and close it here would give up its locks.
+    const QByteArray name = QFile::encodeName(path);
+    const int file = ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
+    int code = file < 0 ? errno : 0;
+    if (file >= 0)
+        ::close(file);
+    if (code == EEXIST)
+        code = QFileInfo(path).isDir()                   ? EISDIR
+               : ::access(name.constData(), R_OK | W_OK) ? errno
+                                                         : 0;
+    if (code != 0)
+        fail(QString::fromLocal8Bit(std::strerror(code)), code, path);
+}
+
+void syncFolder(const QString& folder) {
+    const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
+    ::fsync(file);
+    ::close(file);
+}
+
+} // namespace kovamo
