@@ -24,12 +24,14 @@ Transaction& TransactionsView::transaction(int row) const {
     return static_cast<Transaction&>(object(row));
 }
 
-void TransactionsView::edit(int row) {
-    if (!transaction(row).exists())
-        return;
+bool TransactionsView::edit(int row) {
+    // A row that has just been deleted is there until the next frame.
+    if (!index(row).isValid() || !transaction(row).exists())
+        return false;
     m_formBefore = std::move(m_form);
     m_form = std::make_unique<AddTransactionView>(m_viewContext, &transaction(row));
     Q_EMIT formChanged();
+    return true;
 }
 
 void TransactionsView::remove(const QList<int>& rows) {

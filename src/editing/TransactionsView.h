@@ -25,8 +25,8 @@ class TransactionsView : public LiveFetch {
 
     [[nodiscard]] AddTransactionView* form() const { return m_form.get(); }
 
-    /// Makes the form for the transaction at `row`.
-    Q_INVOKABLE void edit(int row);
+    /// Makes the form for the transaction at `row`; returns whether there is one.
+    Q_INVOKABLE bool edit(int row);
 
     /// Deletes the transactions at `rows`, ascending, each saved at once and each row counted in
     /// the list as the deletion before has left it. A failed save is passed over.

@@ -13,10 +13,10 @@ NavigationStack {
     required property TransactionsState transactions
 
     function open(row: int) {
-        transactions.edit(row);
-        push(formPage, {
-                "transaction": transactions.form
-            });
+        if (transactions.edit(row))
+            push(formPage, {
+                    "transaction": transactions.form
+                });
     }
 
     initialPage: ListView {
@@ -43,9 +43,16 @@ NavigationStack {
             focus: ListView.isCurrentItem
             implicitHeight: words.implicitHeight
 
-            onActiveFocusChanged: if (activeFocus)
-                list.currentIndex = index
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    list.currentIndex = index;
+                else
+                    close();
+            }
             onClicked: screen.open(index)
+            // The Delete key is for the row that was pulled aside, not for another one.
+            onOpenedChanged: if (opened)
+                row.forceActiveFocus(Qt.MouseFocusReason)
             onDeleteRequested: screen.transactions.remove([index])
 
             TransactionRow {

@@ -58,7 +58,10 @@ class Visit {
         m_window->setProperty("textScale", 2);
         m_window->resize(width, m_window->height());
     }
-    [[nodiscard]] bool focusIsSeen() const { return m_window->activeFocusItem()->isVisible(); }
+    [[nodiscard]] bool focusIsSeen() const {
+        const QQuickItem* focused = m_window->activeFocusItem();
+        return focused->isVisible() && focused->activeFocusOnTab();
+    }
     [[nodiscard]] double scaleOf(const QString& text) const {
         return shown(*m_window, text)->scale();
     }
@@ -170,8 +173,7 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
         visit.press(Qt::Key_Return);
     };
     visit.catchWith(comeBack, Qt::Key_S);
-    EXPECT_EQ(book.all().at(1)->timestamp(), at("2024-05-17 10:00"))
-        << "of two forms, the one that comes";
+    EXPECT_EQ(record.timestamp(), at("2024-05-17 10:00")) << "of two forms, the one that comes";
 }
 
 TEST_F(App, GoesOnWithASheetThatIsCaughtOnItsWayOut) {
@@ -241,6 +243,7 @@ TEST_F(App, AsksForStarsAtTheFourthStart) {
     Book book({{300}});
     for (const bool asks : {false, true}) {
         Visit visit(book);
+        visit.press(Qt::Key_Tab);
         queue.advance(std::chrono::milliseconds(1999));
         EXPECT_TRUE(visit.hides("Enjoying Kovamo?"));
         queue.advance(std::chrono::milliseconds(1));
@@ -248,6 +251,7 @@ TEST_F(App, AsksForStarsAtTheFourthStart) {
         if (asks)
             visit.click("Not Now");
         EXPECT_TRUE(visit.hides("Enjoying Kovamo?"));
+        EXPECT_TRUE(visit.focusIsSeen());
     }
 }
 

@@ -42,7 +42,11 @@ DeletableRow {
 
     Accessible.name: accessibleName
     Accessible.role: Accessible.ListItem
-    Keys.onDeletePressed: row.deleteRequested()
+    // A key that is held down deletes one record, not the whole list.
+    Keys.onDeletePressed: event => {
+        if (!event.isAutoRepeat)
+            row.deleteRequested();
+    }
     Keys.onEnterPressed: row.clicked()
     Keys.onEscapePressed: event => {
         event.accepted = row.offset > 0;
@@ -113,8 +117,12 @@ DeletableRow {
 
                 gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                onLongPressed: menu.popup()
-                onTapped: row.offset > 0 ? row.close() : row.clicked()
+                // The menu's own place is the mouse's, which a finger does not move.
+                onLongPressed: menu.popup(parent, point.position.x, point.position.y)
+                onTapped: {
+                    row.forceActiveFocus(Qt.MouseFocusReason);
+                    row.offset > 0 ? row.close() : row.clicked();
+                }
             }
             TapHandler {
                 acceptedButtons: Qt.RightButton

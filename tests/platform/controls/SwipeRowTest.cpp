@@ -71,6 +71,9 @@ TEST(SwipeRow, ListensToTheKeyboardAndHasAMenu) {
     stage.press(Qt::Key_Return);
     stage.press(Qt::Key_Delete);
     EXPECT_EQ(stage.log(), "clicked 1delete 1");
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Delete, {}, {}, true);
+    QGuiApplication::sendEvent(stage.window(), &held);
+    EXPECT_EQ(stage.log(), "clicked 1delete 1");
     stage.press(Qt::Key_Menu);
     stage.press(Qt::Key_Down);
     stage.press(Qt::Key_Return);
