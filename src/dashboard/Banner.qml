@@ -24,7 +24,8 @@ Item {
         Accessible.name: text
         Accessible.role: Accessible.Notification
         anchors.fill: ground
-        text: card.balance.sentence
+        // Nothing is said of what does not show; the way back is said again.
+        text: card.balance.isShown ? card.balance.sentence : " "
     }
     Column {
         id: words

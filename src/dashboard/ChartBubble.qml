@@ -1,3 +1,4 @@
+pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Foundation
@@ -19,15 +20,23 @@ Rectangle {
     visible: text !== ""
     x: Math.max(0, Math.min(parent.width - width, center - width / 2))
 
-    PlainText {
+    Column {
         id: words
 
-        Accessible.ignored: true
         anchors.centerIn: parent
-        font: TextStyles.footnote
-        horizontalAlignment: Text.AlignHCenter
-        maximumLineCount: 3
-        text: bubble.text
-        width: Math.min(implicitWidth, bubble.width - Metrics.step * 4)
+
+        Repeater {
+            model: bubble.text.split("\n")
+
+            PlainText {
+                required property string modelData
+
+                Accessible.ignored: true
+                anchors.horizontalCenter: parent?.horizontalCenter
+                font: TextStyles.footnote
+                text: modelData
+                width: Math.min(implicitWidth, bubble.parent.width - Metrics.step * 5)
+            }
+        }
     }
 }

@@ -126,7 +126,7 @@ QString TransactionChart::columnText(int column) const {
         return {};
     const TransactionPresentation& transaction = transactions[column];
     return QStringLiteral("%1\n%2\n%3")
-        .arg(required(transaction.id, transaction.title, "title"),
+        .arg(QString(required(transaction.id, transaction.title, "title")).replace(u'\n', u' '),
              signedAmount(transaction.isPositive, transaction.amount),
              localizedDateText(required(transaction.id, transaction.startDate, "startDate"),
                                QStringLiteral("yMMMd")));

@@ -87,11 +87,15 @@ FocusScope {
         HoverHandler {
             id: hover
 
+            // The point is told anew with each frame, also where the mouse rests.
+            property real at: -1
+
             acceptedDevices: PointerDevice.Mouse
 
-            onHoveredChanged: row.column = -1
+            onAtChanged: row.column = row.chart.columnAt(at, plot.width)
+            onHoveredChanged: at = -1
             onPointChanged: if (hovered)
-                row.column = row.chart.columnAt(point.position.x, plot.width)
+                at = point.position.x
         }
         FocusRing {
             distance: -2

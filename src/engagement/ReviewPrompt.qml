@@ -10,6 +10,7 @@ T.Popup {
     id: prompt
 
     required property bool sheetPresented
+    property Item focusedBefore: null
 
     anchors.centerIn: T.Overlay.overlay
     bottomPadding: 4
@@ -40,7 +41,12 @@ T.Popup {
         }
     }
 
-    onClosed: ReviewController.dismiss()
+    onAboutToShow: focusedBefore = parent.Window.activeFocusItem
+    onClosed: {
+        ReviewController.dismiss();
+        if (!sheetPresented && focusedBefore !== null)
+            focusedBefore.forceActiveFocus(Qt.PopupFocusReason);
+    }
 
     Column {
         id: column

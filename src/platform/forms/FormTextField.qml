@@ -72,6 +72,8 @@ FormRow {
             }
 
             SequentialAnimation on opacity  {
+                // Not to rest in the dark.
+                alwaysRunToEnd: true
                 loops: Animation.Infinite
                 running: input.cursorVisible && !Motion.reduced
 

@@ -69,8 +69,12 @@ bool MonthCalendar::canGoBack() const {
 }
 
 void MonthCalendar::previousMonth() {
-    if (canGoBack())
-        show({m_cursor.year, m_cursor.month - 1, 1});
+    if (!canGoBack())
+        return;
+    // Some calendars number a month that most years lack.
+    const Calendar calendar;
+    const CalendarDay last = calendar.day(calendar.instant({m_cursor.year, m_cursor.month, 0}, 12));
+    show({last.year, last.month, 1});
 }
 
 void MonthCalendar::nextMonth() {

@@ -85,6 +85,9 @@ FormRow {
 
         gesturePolicy: TapHandler.ReleaseWithinBounds
 
-        onTapped: row.toggle()
+        onTapped: {
+            row.forceActiveFocus(Qt.MouseFocusReason);
+            row.toggle();
+        }
     }
 }

@@ -73,6 +73,19 @@ TEST(MonthCalendar, KeepsTheTimeOfDayAcrossMonthsAndClockChanges) {
     EXPECT_EQ(calendar.title(), QStringLiteral("February 2024"));
 }
 
+TEST(MonthCalendar, GoesBackOverAMonthThatTheYearLacks) {
+    const World world("2025-06-15", "Asia/Jerusalem", "he_IL.UTF-8@calendar=hebrew");
+    MonthCalendar calendar;
+    for (int month = 0; month < 14; ++month) {
+        const QString title = calendar.title();
+        calendar.previousMonth();
+        EXPECT_NE(calendar.title(), title);
+        calendar.nextMonth();
+        EXPECT_EQ(calendar.title(), title);
+        calendar.previousMonth();
+    }
+}
+
 TEST(MonthCalendar, OffersNothingBeforeTheDayOfTheMinimum) {
     MonthCalendar calendar;
     calendar.setMinimumMoment(moment("2024-05-15 23:00"));
