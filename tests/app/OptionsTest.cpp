@@ -12,7 +12,7 @@ namespace {
 struct Ended : QProcess {
     explicit Ended(const QStringList& arguments) {
         start(QStringLiteral(KOVAMO_EXECUTABLE), arguments);
-        EXPECT_TRUE(waitForFinished(120000));
+        EXPECT_TRUE(waitForFinished(600000));
         output = readAllStandardOutput();
         errors = readAllStandardError();
     }
