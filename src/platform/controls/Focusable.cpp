@@ -52,6 +52,13 @@ void Focusable::focusOutEvent(QFocusEvent* event) {
     setVisualFocus(false);
 }
 
+void Focusable::keyPressEvent(QKeyEvent* event) {
+    const int key = event->key();
+    event->setAccepted(key == Qt::Key_Enter || key == Qt::Key_Return || key == Qt::Key_Space);
+    if (event->isAccepted() && !event->isAutoRepeat())
+        Q_EMIT activated();
+}
+
 void Focusable::setVisualFocus(bool visualFocus) {
     if (visualFocus == m_visualFocus)
         return;

@@ -23,10 +23,13 @@ class Focusable : public QQuickItem {
 
   Q_SIGNALS:
     void visualFocusChanged();
+    /// The user pressed Enter, Return or Space on it. A key that is held down is pressed once.
+    void activated();
 
   protected:
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
   private:
     bool m_visualFocus = false;

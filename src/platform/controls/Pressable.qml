@@ -17,18 +17,9 @@ Focusable {
     /*! The user pressed it and let it go on it. */
     signal clicked
 
-    /*! A key that is held down presses once. */
-    function press(event: var) {
-        if (!event.isAutoRepeat)
-            pressable.clicked();
-    }
-
     Accessible.description: description
     Accessible.name: text
     Accessible.role: Accessible.Button
-    Keys.onEnterPressed: event => pressable.press(event)
-    Keys.onReturnPressed: event => pressable.press(event)
-    Keys.onSpacePressed: event => pressable.press(event)
     activeFocusOnTab: takesFocus
     implicitHeight: Metrics.rowHeight
     implicitWidth: Metrics.rowHeight
@@ -43,6 +34,7 @@ Focusable {
     }
 
     Accessible.onPressAction: pressable.clicked()
+    onActivated: pressable.clicked()
 
     FocusRing {
         id: ring

@@ -47,14 +47,11 @@ DeletableRow {
         if (!event.isAutoRepeat)
             row.deleteRequested();
     }
-    Keys.onEnterPressed: row.clicked()
     Keys.onEscapePressed: event => {
         event.accepted = row.offset > 0;
         row.close();
     }
     Keys.onMenuPressed: row.showMenu()
-    Keys.onReturnPressed: row.clicked()
-    Keys.onSpacePressed: row.clicked()
     activeFocusOnTab: true
     implicitHeight: Metrics.rowHeight
     width: ListView.view ? ListView.view.width : implicitWidth
@@ -62,6 +59,7 @@ DeletableRow {
     // A row in waiting is nothing to a screen reader, and closed for its next record.
     ListView.onPooled: row.rest()
     ListView.onReused: row.visible = true
+    onActivated: row.clicked()
 
     NumberAnimation {
         id: movement

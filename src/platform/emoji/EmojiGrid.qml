@@ -35,14 +35,12 @@ Focusable {
     Accessible.name: activeFocus ? rows.cursorName : qsTr("Emoji")
     Accessible.role: Accessible.Grouping
     Keys.onDownPressed: grid.walkRow(1)
-    Keys.onEnterPressed: grid.picked(grid.rows.cursorText)
     Keys.onLeftPressed: grid.rows.moveCursor(back)
-    Keys.onReturnPressed: grid.picked(grid.rows.cursorText)
     Keys.onRightPressed: grid.rows.moveCursor(-back)
-    Keys.onSpacePressed: grid.picked(grid.rows.cursorText)
     Keys.onUpPressed: grid.walkRow(-1)
     activeFocusOnTab: true
 
+    onActivated: picked(rows.cursorText)
     onColumnsChanged: rows.columns = columns
 
     FontMetrics {

@@ -38,15 +38,13 @@ Column {
         Accessible.description: month.momentText
         Accessible.name: field.label
         Accessible.role: Accessible.Button
-        Keys.onEnterPressed: field.toggle()
-        Keys.onReturnPressed: field.toggle()
-        Keys.onSpacePressed: field.toggle()
         contentHeight: pill.height
         activeFocusOnTab: true
         isFirst: field.Positioner.isFirstItem
         whole: field
 
         Accessible.onPressAction: field.toggle()
+        onActivated: field.toggle()
 
         PlainText {
             Accessible.ignored: true

@@ -93,11 +93,8 @@ Column {
         Accessible.name: activeFocus ? grid.calendar.cursorText : grid.calendar.title
         Accessible.role: Accessible.Table
         Keys.onDownPressed: grid.calendar.moveCursor(7)
-        Keys.onEnterPressed: grid.calendar.pick(grid.calendar.cursor)
         Keys.onLeftPressed: grid.calendar.moveCursor(back)
-        Keys.onReturnPressed: grid.calendar.pick(grid.calendar.cursor)
         Keys.onRightPressed: grid.calendar.moveCursor(-back)
-        Keys.onSpacePressed: grid.calendar.pick(grid.calendar.cursor)
         Keys.onUpPressed: grid.calendar.moveCursor(-7)
         activeFocusOnTab: true
         implicitHeight: grid.calendar.weeks * grid.cellHeight
@@ -110,6 +107,7 @@ Column {
             else if (event.key === Qt.Key_PageDown)
                 grid.calendar.nextMonth();
         }
+        onActivated: grid.calendar.pick(grid.calendar.cursor)
 
         Grid {
             columns: 7

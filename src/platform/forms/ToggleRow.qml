@@ -20,14 +20,12 @@ FormRow {
     Accessible.checked: checked
     Accessible.name: label
     Accessible.role: Accessible.CheckBox
-    Keys.onEnterPressed: row.toggle()
-    Keys.onReturnPressed: row.toggle()
-    Keys.onSpacePressed: row.toggle()
     contentHeight: Math.max(track.height, caption.implicitHeight)
     activeFocusOnTab: true
 
     Accessible.onPressAction: toggle()
     Accessible.onToggleAction: toggle()
+    onActivated: toggle()
 
     PlainText {
         id: caption
