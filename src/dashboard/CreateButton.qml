@@ -9,17 +9,12 @@ Item {
     required property ContentState content
 
     ActionButton {
-        id: button
-
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Metrics.padding
         anchors.horizontalCenter: parent.horizontalCenter
         symbol: "plus"
         text: qsTr("🙄 create a transaction")
 
-        // The focus does not go with it.
-        onVisibleChanged: if (!visible && activeFocus)
-            button.nextItemInFocusChain().forceActiveFocus(Qt.OtherFocusReason)
         onClicked: empty.content.showAddTransaction = true
     }
 }

@@ -45,6 +45,7 @@ Focusable::Focusable(QQuickItem* parent) : QQuickItem(parent) {
 void Focusable::focusInEvent(QFocusEvent* event) {
     QQuickItem::focusInEvent(event);
     setVisualFocus(LastUsed::shared().isKeyboard() && event->reason() != Qt::MouseFocusReason);
+    handOnLater();
 }
 
 void Focusable::focusOutEvent(QFocusEvent* event) {
@@ -57,6 +58,23 @@ void Focusable::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(key == Qt::Key_Enter || key == Qt::Key_Return || key == Qt::Key_Space);
     if (event->isAccepted() && !event->isAutoRepeat())
         Q_EMIT activated();
+}
+
+void Focusable::itemChange(ItemChange change, const ItemChangeData& data) {
+    QQuickItem::itemChange(change, data);
+    if (change == ItemVisibleHasChanged && hasActiveFocus())
+        handOnLater();
+}
+
+void Focusable::handOnLater() {
+    if (isVisible())
+        return;
+    // Once all that is hidden with it is hidden, too.
+    const auto handOn = [this] {
+        if (hasActiveFocus() && !isVisible())
+            nextItemInFocusChain()->forceActiveFocus(Qt::OtherFocusReason);
+    };
+    QMetaObject::invokeMethod(this, handOn, Qt::QueuedConnection);
 }
 
 void Focusable::setVisualFocus(bool visualFocus) {

@@ -6,8 +6,8 @@
 namespace kovamo {
 
 /// An item that the Tab key reaches and that knows whether the user is to see its focus: while the
-/// keyboard is used, and not the pointer. The toolkit's own controls know it too, but insist on
-/// their accessible role.
+/// keyboard is used, and not the pointer. One that is hidden hands the focus on to the next. The
+/// toolkit's own controls know most of it too, but insist on their accessible role.
 class Focusable : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
@@ -30,8 +30,11 @@ class Focusable : public QQuickItem {
     void focusInEvent(QFocusEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void itemChange(ItemChange change, const ItemChangeData& data) override;
 
   private:
+    void handOnLater();
+
     bool m_visualFocus = false;
 };
 

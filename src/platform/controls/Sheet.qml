@@ -37,9 +37,8 @@ Item {
 
     function close() {
         popup.close();
-        const before = sheet.focusedBefore;
-        if (before !== null)
-            (before.visible ? before : before.nextItemInFocusChain()).forceActiveFocus(Qt.PopupFocusReason);
+        if (sheet.focusedBefore !== null)
+            sheet.focusedBefore.forceActiveFocus(Qt.PopupFocusReason);
         sheet.closed();
     }
 
