@@ -54,7 +54,8 @@ Item {
         closePolicy: T.Popup.NoAutoClose
         focus: true
         height: parent ? parent.height : 0
-        modal: true
+        // Of modal popups one over another, the toolkit gives the wheel to none.
+        modal: layer.activeFocus
         parent: sheet.overlay
         width: parent ? parent.width : 0
 

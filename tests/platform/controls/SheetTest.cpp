@@ -120,6 +120,24 @@ TEST(Sheet, IsACardOnAWideWindow) {
     EXPECT_EQ(middle(stage.item("stack")).x(), 800);
 }
 
+TEST(Sheet, OverAnotherIsScrolledByTheWheel) {
+    Stage stage(R"(
+        property bool second: false
+        Sheet {
+            presented: true; title: 'Sheet'
+            FocusScope {
+                Sheet {
+                    presented: second; title: 'Over it'
+                    ListView { objectName: 'list'; model: 99; delegate: Item { height: 44; width: 300 } }
+                }
+            }
+        })");
+    stage.set("second", true);
+    QWheelEvent turn({100, 400}, {100, 400}, {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QGuiApplication::sendEvent(stage.window(), &turn);
+    EXPECT_TRUE(Stage::soon([&] { return stage.get("contentY", "list").toDouble() > 0; }));
+}
+
 TEST(NavigationStack, GoesForwardAndBackAndKeepsThePagesBelow) {
     Stage stage(R"(
         Component { id: second; Item { property string navigationTitle; objectName: 'second' } }
