@@ -4,6 +4,8 @@
 #include <QPainter>
 #include <QPixmapCache>
 #include <QQuickWindow>
+#include <QTextLayout>
+#include <algorithm>
 #include <cmath>
 #include <unicode/uchar.h>
 
@@ -12,7 +14,7 @@ namespace kovamo {
 namespace {
 
 /// Wider than any list has room for; a pasted text may be of any length.
-constexpr int widest = 1000;
+constexpr qreal widest = 1000;
 
 /// Digits and other letters of ASCII are the beginnings of emoji, but none themselves.
 bool beginsWithEmoji(const QString& text) {
@@ -26,19 +28,25 @@ QFont fontFor(const QString& text, QFont font) {
     return font;
 }
 
-/// `text` on a transparent ground, `pixelRatio` pixels a point.
+/// `text`, cut at the widest, on a transparent ground, `pixelRatio` pixels a point. It is shaped
+/// once: that decodes the emoji's picture, every time.
 QPixmap drawn(const QString& text, const QFont& font, const QColor& color, qreal pixelRatio) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setNumColumns(int(text.size()));
+    layout.endLayout();
     const QFontMetricsF metrics(font);
-    const QSizeF size(std::ceil(metrics.horizontalAdvance(text)), std::ceil(metrics.height()));
+    const QSizeF size(std::ceil(std::min(line.naturalTextWidth(), widest)),
+                      std::ceil(metrics.height()));
     QPixmap picture((size * pixelRatio).toSize());
     if (picture.isNull())
         return picture;
     picture.setDevicePixelRatio(pixelRatio);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    painter.setFont(font);
     painter.setPen(color);
-    painter.drawText(QPointF(0, metrics.ascent()), text);
+    layout.draw(&painter, QPointF(0, metrics.ascent() - line.ascent()));
     return picture;
 }
 
@@ -73,8 +81,7 @@ void EmojiText::draw() {
     const QString key = QStringLiteral("%1 %2 %3 ").arg(m_color.rgba()).arg(pixelRatio) +
                         font.key() + u' ' + m_text;
     if (!QPixmapCache::find(key, &m_picture)) {
-        m_picture = drawn(QFontMetricsF(font).elidedText(m_text, Qt::ElideRight, widest), font,
-                          m_color, pixelRatio);
+        m_picture = drawn(m_text, font, m_color, pixelRatio);
         QPixmapCache::insert(key, m_picture);
     }
     setImplicitSize(m_picture.deviceIndependentSize().width(),

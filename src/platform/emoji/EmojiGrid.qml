@@ -65,7 +65,8 @@ Focusable {
         cacheBuffer: 0
         clip: true
         keyNavigationEnabled: false
-        model: grid.rows
+        // Without a width every row would be flat, and all of them in sight.
+        model: width > 0 ? grid.rows : null
         reuseItems: true
 
         delegate: Column {

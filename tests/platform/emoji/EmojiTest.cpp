@@ -1,7 +1,8 @@
 #include "platform/emoji/EmojiRows.h"
 
+#include "support/Stage.h"
+
 #include <QSet>
-#include <gtest/gtest.h>
 
 namespace kovamo {
 namespace {
@@ -27,6 +28,25 @@ TEST(Emoji, RowsKeepTheCursorOnAnEmoji) {
     rows.setQuery(QStringLiteral("no such thing"));
     EXPECT_TRUE(rows.cursorText().isEmpty());
     EXPECT_FALSE(rows.moveCursorRow(-1));
+}
+
+TEST(EmojiPanel, IsWalkedAndSearchedByTheKeyboard) {
+    Stage stage("EmojiPanel { anchors.fill: parent; focus: true; onPicked: emoji => log += emoji }",
+                true, "Kovamo.Emoji");
+    for (const Qt::Key key : {Qt::Key_Right, Qt::Key_Down, Qt::Key_Return, Qt::Key_Up, Qt::Key_Up,
+                              Qt::Key_C, Qt::Key_A, Qt::Key_R, Qt::Key_Return})
+        stage.press(key);
+    EXPECT_EQ(stage.log(), "🛡️🚗");
+}
+
+TEST(EmojiPanel, MakesNoRowOutOfSight) {
+    Stage stage("EmojiPanel { height: 800 }", true, "Kovamo.Emoji");
+    int made = 0;
+    static_cast<void>(findItem(*stage.window(), [&](const QQuickItem& item) {
+        made += item.inherits("kovamo::EmojiText") ? 1 : 0;
+        return false;
+    }));
+    EXPECT_LT(made, 20) << "the categories alone";
 }
 
 } // namespace
