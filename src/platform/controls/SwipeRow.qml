@@ -100,7 +100,7 @@ DeletableRow {
             }
         }
         Rectangle {
-            color: tap.pressed && row.offset === 0 ? Qt.tint(row.color, SystemColors.fill) : row.color
+            color: (tap.pressed || menu.visible) && row.offset === 0 ? Qt.tint(row.color, SystemColors.fill) : row.color
             height: parent.height
             width: parent.width
             x: row.direction * row.offset

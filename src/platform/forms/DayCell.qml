@@ -30,7 +30,7 @@ Item {
         height: width
         radius: width / 2
         visible: cell.selected
-        width: Math.min(cell.width, cell.height) - 2
+        width: Math.min(cell.width, cell.height) - (cell.ringed ? 8 : 2)
     }
     Rectangle {
         anchors.centerIn: parent
