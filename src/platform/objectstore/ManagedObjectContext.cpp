@@ -168,7 +168,7 @@ void ManagedObjectContext::prepareToSave() {
     constexpr int pages = 64;
     constexpr std::chrono::milliseconds pause(5);
     MainQueue::asyncAfter(pause, [context = QPointer(this)] {
-        if (context && !context->m_store.keepCopy(pages))
+        if (context && !context->m_store.prepareCopy(pages))
             context->prepareToSave();
     });
 }

@@ -51,18 +51,21 @@ bool isSealed(SQLite::Database& database, const QString& path) {
     return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.readAll() == digest(database);
 }
 
+bool hasLog(const QString& path) {
+    return QFileInfo(path + u"-wal").size() > 0;
+}
+
 bool isEmptied(const QString& path) {
     const QFileInfo file(path);
     if (!file.exists())
         QFile::remove(sealPath(path));
     // SQLite would take a log away from beside an empty file.
-    return file.isFile() && file.size() == 0 &&
-           (QFile::exists(sealPath(path)) || QFileInfo(path + u"-wal").size() > 0);
+    return file.isFile() && file.size() == 0 && (QFile::exists(sealPath(path)) || hasLog(path));
 }
 
 void seal(SQLite::Database& database, const QString& path) {
     QFile file(sealPath(path));
-    if (QFileInfo(path + u"-wal").size() > 0 || !file.open(QIODevice::WriteOnly))
+    if (hasLog(path) || !file.open(QIODevice::WriteOnly))
         return;
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     file.write(digest(database));

@@ -14,6 +14,9 @@ namespace kovamo {
 /// amount.
 [[nodiscard]] bool isSealed(SQLite::Database& database, const QString& path);
 
+/// Whether a part of the database at `path` lies in a log beside it.
+[[nodiscard]] bool hasLog(const QString& path);
+
 /// Whether the file at `path` was sealed once and is empty now. Where there is no file, the seal
 /// is forgotten: whoever removes a store wants a new one.
 [[nodiscard]] bool isEmptied(const QString& path);

@@ -36,6 +36,10 @@ std::string utf8(const QString& text) {
     return text.toStdString();
 }
 
+CalendarDay today() {
+    return Calendar().day(Clock::now());
+}
+
 /// Runs a statement with the record's values and its identity; returns how many rows it changed.
 int put(SQLite::Statement& statement, const ManagedObject& object) {
     int index = 0;
@@ -60,7 +64,7 @@ Store::Store(const QString& path, const EntityDescription& entity)
         m_statements.emplace(*m_database);
         // A misspelt column must be an error, never a text constant.
         sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-        // A store that is refused must not be written to when it is closed again.
+        // What is refused or only looked at must not be written to when it is closed again.
         checkpointOnClose(false);
         refuseNewer();
         refuseDamaged();
@@ -69,7 +73,6 @@ Store::Store(const QString& path, const EntityDescription& entity)
         createSchema();
         // Fails where the table lacks a column, and so before anything is written.
         (void)m_statements->use(m_table.selection);
-        checkpointOnClose(true);
         (void)changedElsewhere();
     });
 }
@@ -77,10 +80,12 @@ Store::Store(const QString& path, const EntityDescription& entity)
 Store::~Store() {
     try {
         m_copy.reset();
-        if (!m_wasWritten)
+        if (!m_wasWritten) {
+            // Without a log, only its empty files are taken away.
+            checkpointOnClose(!hasLog(m_path));
             return;
+        }
         // What has been damaged meanwhile is left as it is.
-        checkpointOnClose(false);
         if (!faultOf(*m_database).isEmpty())
             return;
         checkpointOnClose(true);
@@ -230,25 +235,38 @@ ObjectID Store::unusedID() const {
     });
 }
 
-bool Store::keepCopy(int pages) {
-    const CalendarDay today = Calendar().day(Clock::now());
-    if (m_dayOfCopy == today)
-        return true;
+bool Store::beginCopy() {
+    if (!m_copy && integer(u"SELECT EXISTS (SELECT 1 FROM " + m_table.name + u')'))
+        m_copy.emplace(*m_database, m_path);
+    return m_copy.has_value();
+}
+
+bool Store::prepareCopy(int pages) {
     try {
-        if (!m_copy && integer(u"SELECT EXISTS (SELECT 1 FROM " + m_table.name + u')'))
-            m_copy.emplace(*m_database, m_path);
-        if (m_copy && !m_copy->step(pages))
-            return false;
+        return m_dayOfCopy == today() || !beginCopy() || m_copy->advance(pages);
+    } catch (const SQLite::Exception&) {
+        // The write tries again.
+        m_copy.reset();
+        return true;
+    }
+}
+
+void Store::keepCopy() {
+    const CalendarDay day = today();
+    if (m_dayOfCopy == day)
+        return;
+    try {
+        if (beginCopy())
+            m_copy->finish();
     } catch (const SQLite::Exception&) {
         // No room for a copy is no reason not to save.
     }
     m_copy.reset();
-    m_dayOfCopy = today;
-    return true;
+    m_dayOfCopy = day;
 }
 
 void Store::prepareToWrite() {
-    keepCopy(-1);
+    keepCopy();
     if (m_wasWritten)
         return;
     // Where two writers do this at once, SQLite refuses one of them instead of letting it wait.

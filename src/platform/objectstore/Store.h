@@ -44,13 +44,14 @@ class Store {
     /// record.
     [[nodiscard]] ObjectID unusedID() const;
 
-    /// Goes on with the copy that is kept of what is stored before the first write of a run, and
-    /// of each day that the run lasts, by that many pages, or by all if `pages` is negative.
-    /// Returns whether there is nothing left to do; a copy that fails is given up for the day.
-    bool keepCopy(int pages);
+    /// Goes on by that many pages with the copy that the first write of a run, and of each day
+    /// that the run lasts, keeps of what is stored before it. Returns whether there is nothing left
+    /// to do ahead of the write.
+    bool prepareCopy(int pages);
 
-    /// Writes all of `changes`, durably when it returns, or none. Keeps the copy first. Returns
-    /// whether it could: not where another writer has taken the identity of an inserted record.
+    /// Writes all of `changes`, durably when it returns, or none. Keeps the copy first; one that
+    /// fails is given up for the day. Returns whether it could write: not where another writer has
+    /// taken the identity of an inserted record.
     [[nodiscard]] bool write(const ObjectChanges& changes);
 
     /// Whether another writer has saved since this was last asked.
@@ -61,6 +62,8 @@ class Store {
     void refuseNewer() const;
     void refuseDamaged() const;
     void createSchema();
+    bool beginCopy();
+    void keepCopy();
     void prepareToWrite();
     [[nodiscard]] StatementCache::Use prepared(const QString& selection,
                                                const FetchRequest& request) const;

@@ -84,18 +84,16 @@ StoreCopy::Unfinished::~Unfinished() {
     QFile::remove(path);
 }
 
-bool StoreCopy::step(int pages) {
-    const int code = m_backup->executeStep(pages);
-    if (code == SQLITE_DONE) {
-        publish();
-        return true;
-    }
-    if (pages < 0)
-        fail("The store is busy");
-    return false;
+bool StoreCopy::advance(int pages) {
+    // The first step copies nothing, and counts.
+    const int left = m_backup->getRemainingPageCount();
+    m_backup->executeStep(std::clamp(left - 1, 0, pages));
+    return m_backup->getRemainingPageCount() <= 1;
 }
 
-void StoreCopy::publish() {
+void StoreCopy::finish() {
+    if (m_backup->executeStep(-1) != SQLITE_DONE)
+        fail("The store is busy");
     m_backup.reset();
     m_target.reset();
     completeAlone(m_unfinished.path);

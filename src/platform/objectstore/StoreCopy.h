@@ -10,7 +10,8 @@ namespace kovamo {
 /// A copy of a store in the making: a complete store beside it that bears the day, readable and
 /// writable by its owner only ("Kovamo-2026-11-23.sqlite" beside "Kovamo.sqlite"). It takes the
 /// place of an earlier one of that day, so that the newest three are of three days, however often
-/// a day is copied. All failures are thrown as SQLite::Exception and leave no file behind.
+/// a day is copied. Until it is finished, it is no more than a file that goes with the value. All
+/// failures are thrown as SQLite::Exception and leave no file behind.
 class StoreCopy {
   public:
     /// Begins the copy of the store at `storePath`, which `source` has open. Requires: `source`
@@ -18,17 +19,17 @@ class StoreCopy {
     StoreCopy(SQLite::Database& source, const QString& storePath);
     Q_DISABLE_COPY_MOVE(StoreCopy)
 
-    /// Copies `pages` more, or all that are left if that is negative. After the last one the copy
-    /// is on the disk under its name and copies beyond the newest three are gone; returns whether
-    /// that is so.
-    bool step(int pages);
+    /// Copies `pages` more, but the last one. Returns whether only that is left.
+    bool advance(int pages);
+
+    /// Copies all that is left, and again what another process has changed meanwhile. Then the
+    /// copy is on the disk under its name, and copies beyond the newest three are gone.
+    void finish();
 
     /// The newest copy of the store at `storePath`, if there is one.
     [[nodiscard]] static std::optional<QString> newest(const QString& storePath);
 
   private:
-    void publish();
-
     /// A file that goes with the value, unless it has got another name by then.
     struct Unfinished {
         QString path;
