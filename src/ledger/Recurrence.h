@@ -13,8 +13,7 @@ namespace kovamo {
 /// What a recurring record contributes to the months `slots`, if anything: a "monthly" one its
 /// copy with the amount times the months in which it is active, a "yearly" one its plain copy when
 /// the month of its start, whatever the year, is `startMonth` of a slot and it has not ended by
-/// then. A missing
-/// date is a fatal error when the rule reaches it; so is a product beyond 32 bits.
+/// then. A missing date is a fatal error when the rule reaches it; so is a product beyond 32 bits.
 [[nodiscard]] std::optional<TransactionPresentation> expanded(const Transaction& transaction,
                                                               std::span<const MonthSlot> slots,
                                                               const Calendar& calendar);

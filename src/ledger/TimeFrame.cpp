@@ -20,10 +20,11 @@ bool isWholeMonths(TimeFrame timeFrame) {
 Period periodBounds(TimeFrame timeFrame) {
     const Calendar calendar;
     const Instant now = Clock::now();
-    const auto [year, month, day] = calendar.day(now);
-    return {calendar.instant({year, month, 1}),
-            isWholeMonths(timeFrame) ? monthEndBefore(calendar, year, month + slotCount(timeFrame))
-                                     : now};
+    const CalendarDay today = calendar.day(now);
+    return {calendar.instant({today.year, today.month, 1}),
+            isWholeMonths(timeFrame)
+                ? monthEndBefore(calendar, today.year, today.month + slotCount(timeFrame))
+                : now};
 }
 
 int slotCount(TimeFrame timeFrame) {
@@ -39,12 +40,14 @@ int slotCount(TimeFrame timeFrame) {
 
 std::vector<MonthSlot> monthSlots(TimeFrame timeFrame) {
     const Calendar calendar;
-    const auto [year, month, day] = calendar.day(Clock::now());
+    const CalendarDay today = calendar.day(Clock::now());
+    const auto endBefore = [&](int i) {
+        return monthEndBefore(calendar, today.year, today.month + i);
+    };
     std::vector<MonthSlot> slots;
     for (int i = 1; i <= slotCount(timeFrame); ++i) {
-        const Instant slotStart = monthEndBefore(calendar, year, month + i - 1);
-        slots.push_back(
-            {slotStart, monthEndBefore(calendar, year, month + i), calendar.day(slotStart).month});
+        const Instant slotStart = endBefore(i - 1);
+        slots.push_back({slotStart, endBefore(i), calendar.day(slotStart).month});
     }
     return slots;
 }

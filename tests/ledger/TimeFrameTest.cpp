@@ -95,6 +95,11 @@ TEST(TimeFrame, HasTheMonthsThatTheCLibraryCountsInEveryZone) {
     EXPECT_LT(disputed, compared / 20);
 }
 
+TEST(TimeFrame, BeginsWithTheFirstOfTwoMidnights) {
+    const World world("2026-11-15 10:00", "America/Havana");
+    EXPECT_EQ(text(periodBounds(1).start), text(at("2026-10-31 23:00") + 1h));
+}
+
 TEST(TimeFrame, FollowsTheCalendarOfTheLocale) {
     const std::tuple<const char*, const char*, const char*> cases[] = {
         {"th_TH.UTF-8", "2024-06-01", "2025-05-31 23:00"},

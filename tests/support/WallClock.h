@@ -32,7 +32,7 @@ class WallClock {
         return {local.tm_year + 1900, local.tm_mon + 1};
     }
 
-    /// When the clock shows `hours` after the month's first midnight: the later moment of two, and
+    /// When the clock shows `hours` after the month's first midnight: the first moment of two, and
     /// where the clock leaps over it, the moment that the offset before the leap gives.
     static Instant at(Month month, int hours) {
         using namespace std::chrono;
@@ -42,7 +42,7 @@ class WallClock {
         const Instant before = shown - offset(shown - days(1));
         const Instant after = shown - offset(shown + days(1));
         const auto shows = [&](Instant instant) { return instant + offset(instant) == shown; };
-        return shows(after) && !(shows(before) && before > after) ? after : before;
+        return shows(after) && !shows(before) ? after : before;
     }
 
     /// The bounds of the months of a time frame as of `now`, one more than months.

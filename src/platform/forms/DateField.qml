@@ -25,6 +25,11 @@ Column {
 
     width: parent ? parent.width : implicitWidth
 
+    Keys.onEscapePressed: event => {
+        event.accepted = field.unfolded;
+        if (field.unfolded)
+            field.toggle();
+    }
     onVisibleChanged: unfolded = false
 
     MonthCalendar {

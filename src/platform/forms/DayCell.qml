@@ -45,7 +45,7 @@ Item {
     PlainText {
         Accessible.ignored: true
         anchors.centerIn: parent
-        color: !cell.available ? SystemColors.tertiaryLabel : cell.selected && cell.today ? SystemColors.white : cell.selected || cell.today ? SystemColors.accent : SystemColors.label
+        color: cell.selected && cell.today ? SystemColors.white : !cell.available ? SystemColors.tertiaryLabel : cell.selected || cell.today ? SystemColors.accent : SystemColors.label
         font: cell.selected ? TextStyles.headline : TextStyles.body
         text: cell.text
     }

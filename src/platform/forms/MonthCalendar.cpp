@@ -2,6 +2,7 @@
 
 #include "platform/foundation/Formatters.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace kovamo {
@@ -65,24 +66,21 @@ QString MonthCalendar::cursorText() const {
 }
 
 bool MonthCalendar::canGoBack() const {
-    return !isBeforeMinimum({m_cursor.year, m_cursor.month, 0});
+    return !isBeforeMinimum(day(0));
 }
 
 void MonthCalendar::previousMonth() {
     if (!canGoBack())
         return;
-    // Some calendars number a month that most years lack.
-    const Calendar calendar;
-    const CalendarDay last = calendar.day(calendar.instant({m_cursor.year, m_cursor.month, 0}, 12));
-    show({last.year, last.month, 1});
+    showMonthOf(day(0));
 }
 
 void MonthCalendar::nextMonth() {
-    show({m_cursor.year, m_cursor.month + 1, 1});
+    showMonthOf(day(Calendar().daysInMonth(m_cursor) + 1));
 }
 
 void MonthCalendar::moveCursor(int days) {
-    const CalendarDay target{m_cursor.year, m_cursor.month, m_cursor.day + days};
+    const CalendarDay target = day(m_cursor.day + days);
     // From before the minimum, the way forward leads out.
     if (days > 0 || !isBeforeMinimum(target))
         show(target);
@@ -136,6 +134,12 @@ void MonthCalendar::show(const CalendarDay& day) {
     refresh();
 }
 
+void MonthCalendar::showMonthOf(const CalendarDay& other) {
+    const int number = m_cursor.day;
+    show(other);
+    show(day(std::min(number, Calendar().daysInMonth(m_cursor))));
+}
+
 void MonthCalendar::refresh() {
     Q_EMIT monthChanged();
     Q_EMIT dataChanged(index(0), index(cells - 1));
@@ -143,12 +147,18 @@ void MonthCalendar::refresh() {
 
 int MonthCalendar::leadingCells() const {
     const Calendar calendar;
-    const int first = calendar.weekday({m_cursor.year, m_cursor.month, 1});
+    const int first = calendar.weekday(day(1));
     return (first - calendar.firstWeekday() + daysOfWeek) % daysOfWeek;
 }
 
+CalendarDay MonthCalendar::day(int number) const {
+    CalendarDay day = m_cursor;
+    day.day = number;
+    return day;
+}
+
 CalendarDay MonthCalendar::dayAt(int index) const {
-    return {m_cursor.year, m_cursor.month, index - leadingCells() + 1};
+    return day(index - leadingCells() + 1);
 }
 
 bool MonthCalendar::isDay(int index) const {

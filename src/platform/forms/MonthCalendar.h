@@ -73,8 +73,12 @@ class MonthCalendar : public QAbstractListModel {
 
   private:
     void show(const CalendarDay& day);
+    /// Shows another month, the cursor on the same day of it if it has that one.
+    void showMonthOf(const CalendarDay& other);
     void refresh();
     [[nodiscard]] int leadingCells() const;
+    /// The day of the shown month by its number, which may be beyond the month's.
+    [[nodiscard]] CalendarDay day(int number) const;
     [[nodiscard]] CalendarDay dayAt(int index) const;
     [[nodiscard]] bool isDay(int index) const;
     [[nodiscard]] bool isBeforeMinimum(const CalendarDay& day) const;

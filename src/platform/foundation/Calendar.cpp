@@ -28,18 +28,17 @@ Calendar::Calendar() {
     UErrorCode status = U_ZERO_ERROR;
     m_fields.reset(icu::Calendar::createInstance(dateLocale(), status));
     require(status);
+    m_fields->setRepeatedWallTimeOption(UCAL_WALLTIME_FIRST);
 }
 
 CalendarDay Calendar::day(Instant instant) const {
     set(instant);
-    return {field(UCAL_EXTENDED_YEAR), field(UCAL_MONTH) + 1, field(UCAL_DAY_OF_MONTH)};
+    return {field(UCAL_EXTENDED_YEAR), field(UCAL_MONTH) + 1, field(UCAL_DAY_OF_MONTH),
+            field(UCAL_IS_LEAP_MONTH) != 0};
 }
 
 Instant Calendar::instant(const CalendarDay& day, int hour) const {
-    m_fields->clear();
-    m_fields->set(UCAL_EXTENDED_YEAR, day.year);
-    m_fields->set(UCAL_MONTH, day.month - 1);
-    m_fields->set(UCAL_DAY_OF_MONTH, day.day);
+    set(day);
     m_fields->set(UCAL_HOUR_OF_DAY, hour);
     return instantOfFields();
 }
@@ -47,16 +46,13 @@ Instant Calendar::instant(const CalendarDay& day, int hour) const {
 Instant Calendar::moved(Instant instant, const CalendarDay& day) const {
     set(instant);
     const int timeOfDay = field(UCAL_MILLISECONDS_IN_DAY);
-    m_fields->clear();
-    m_fields->set(UCAL_EXTENDED_YEAR, day.year);
-    m_fields->set(UCAL_MONTH, day.month - 1);
-    m_fields->set(UCAL_DAY_OF_MONTH, day.day);
+    set(day);
     m_fields->set(UCAL_MILLISECONDS_IN_DAY, timeOfDay);
     return instantOfFields();
 }
 
 int Calendar::daysInMonth(const CalendarDay& day) const {
-    set(instant({day.year, day.month, 1}));
+    set(instant({day.year, day.month, 1, day.isLeapMonth}));
     UErrorCode status = U_ZERO_ERROR;
     const int days = m_fields->getActualMaximum(UCAL_DAY_OF_MONTH, status);
     require(status);
@@ -79,6 +75,14 @@ void Calendar::set(Instant instant) const {
     UErrorCode status = U_ZERO_ERROR;
     m_fields->setTime(static_cast<UDate>(instant.time_since_epoch().count()), status);
     require(status);
+}
+
+void Calendar::set(const CalendarDay& day) const {
+    m_fields->clear();
+    m_fields->set(UCAL_EXTENDED_YEAR, day.year);
+    m_fields->set(UCAL_MONTH, day.month - 1);
+    m_fields->set(UCAL_IS_LEAP_MONTH, day.isLeapMonth);
+    m_fields->set(UCAL_DAY_OF_MONTH, day.day);
 }
 
 int Calendar::field(UCalendarDateFields name) const {

@@ -8,13 +8,15 @@
 namespace kovamo {
 
 /// A calendar day: the year counted through, without the eras or cycles that its calendar has, the
-/// month and the day from 1.
+/// month and the day from 1. Some calendars put in a leap month that bears the number of the month
+/// before.
 struct CalendarDay {
     int year = 0;
     int month = 1;
     int day = 1;
+    bool isLeapMonth = false;
 
-    friend auto operator<=>(const CalendarDay&, const CalendarDay&) = default;
+    friend bool operator==(const CalendarDay&, const CalendarDay&) = default;
 };
 
 /// Takes the time zone that the device has now, for all calendars and dates' texts from then on;
@@ -23,7 +25,8 @@ bool followHostTimeZone();
 
 /// The user's current calendar and time zone, as they are when the value is made. Months and
 /// hours out of range are normalised: month 13 is the first of the next year, hour -1 is 23:00 of
-/// the day before. An instant that the calendar cannot build is a fatal error.
+/// the day before. Where the clock is set back and shows an hour twice, the first one counts. An
+/// instant that the calendar cannot build is a fatal error.
 class Calendar {
   public:
     Calendar();
@@ -48,6 +51,7 @@ class Calendar {
 
   private:
     void set(Instant instant) const;
+    void set(const CalendarDay& day) const;
     [[nodiscard]] int field(UCalendarDateFields name) const;
     [[nodiscard]] Instant instantOfFields() const;
 
