@@ -6,6 +6,7 @@
 #include "platform/views/Shape.h"
 #include "platform/views/ShapeViews.h"
 
+#include <QRegularExpression>
 #include <cstdio>
 
 namespace kovamo {
@@ -60,7 +61,9 @@ void Banner::judge(std::int64_t sum) {
 }
 
 QString Banner::numberText() const {
-    return kovamo::numberText(kovamo);
+    // Some locales group money by another rule than numbers.
+    static const QRegularExpression digits(QStringLiteral("\\p{Nd}(.*\\p{Nd})?"));
+    return digits.match(currencyText(kovamo)).captured();
 }
 
 QString Banner::leadingSymbol() const {

@@ -8,7 +8,7 @@ TEST(Banner, PutsTheCurrencyWhereTheLocaleDoes) {
     const std::tuple<const char*, const char*, const char*, const char*> cases[] = {
         {"en_US.UTF-8", "$", "1,234", ""},          {"de_DE.UTF-8", "", "1.234", "\u00a0€"},
         {"de_CH.UTF-8", "CHF\u00a0", "1’234", ""},  {"fr_FR.UTF-8", "", "1\u202f234", "\u00a0€"},
-        {"ar_EG.UTF-8", "", "١٬٢٣٤", "\u00a0ج.م."},
+        {"ar_EG.UTF-8", "", "١٬٢٣٤", "\u00a0ج.م."}, {"de_AT.UTF-8", "€\u00a0", "1.234", ""},
     };
     Book book({{1234}});
     const Banner banner(book.context, 1);
