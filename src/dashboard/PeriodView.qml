@@ -27,17 +27,13 @@ Item {
         anchors.top: banner.bottom
         width: period.width
     }
-    ListView {
+    RowList {
         id: list
 
         Accessible.name: qsTr("Transactions of the time frame")
-        Accessible.role: Accessible.List
         anchors.bottom: parent.bottom
         anchors.top: divider.bottom
-        clip: true
-        highlightMoveDuration: 0
         model: period.isComplete ? period.content.filteredList : null
-        reuseItems: true
         width: period.width
 
         delegate: FilteredListRow {

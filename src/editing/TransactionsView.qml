@@ -19,18 +19,13 @@ NavigationStack {
                 });
     }
 
-    initialPage: ListView {
+    initialPage: RowList {
         id: list
 
         property string navigationTitle: qsTr("Transactions")
 
         Accessible.name: navigationTitle
-        Accessible.role: Accessible.List
-        clip: true
-        highlightMoveDuration: 0
-        keyNavigationEnabled: true
         model: screen.transactions
-        reuseItems: true
 
         delegate: SwipeRow {
             id: row

@@ -6,7 +6,8 @@ namespace kovamo {
 
 namespace {
 
-/// Sees by the app's events what the user last used.
+/// Sees by the app's events what the user last used. The key that brings the focus into sight goes
+/// to an item that does not show it yet.
 class LastUsed : public QObject {
   public:
     static const LastUsed& shared() {
@@ -19,15 +20,19 @@ class LastUsed : public QObject {
     bool eventFilter(QObject*, QEvent* event) override {
         const QEvent::Type type = event->type();
         if (type == QEvent::KeyPress || type == QEvent::MouseButtonPress ||
-            type == QEvent::TouchBegin) {
+            type == QEvent::TouchBegin || type == QEvent::Wheel) {
             m_isKeyboard = type == QEvent::KeyPress;
-            if (auto* focused = qobject_cast<Focusable*>(QGuiApplication::focusObject()))
-                focused->setVisualFocus(m_isKeyboard);
+            QMetaObject::invokeMethod(this, &LastUsed::show, Qt::QueuedConnection);
         }
         return false;
     }
 
   private:
+    void show() const {
+        if (auto* focused = qobject_cast<Focusable*>(QGuiApplication::focusObject()))
+            focused->setVisualFocus(m_isKeyboard);
+    }
+
     // It goes with the app that it watches.
     LastUsed() : QObject(QCoreApplication::instance()) {
         QCoreApplication::instance()->installEventFilter(this);

@@ -14,6 +14,8 @@ DeletableRow {
     /*! How far the row is pulled aside, in points. */
     property real offset: 0
     readonly property bool opened: offset > 0 && !drag.active
+    /*! Whether the user sees that the keyboard talks to it. */
+    readonly property bool isMarked: visualFocus || opened
     readonly property real uncovered: Math.max(80, deleteText.implicitWidth + Metrics.padding * 2)
     readonly property int direction: LayoutMirroring.enabled ? 1 : -1
 
@@ -27,8 +29,10 @@ DeletableRow {
         row.visible = false;
     }
 
-    function showMenu() {
-        menu.popup(row, row.width / 2, row.height / 2);
+    /*! Shows the menu beside a point, so that no second press there is a choice. */
+    function showMenu(x: real, y: real) {
+        row.forceActiveFocus(Qt.MouseFocusReason);
+        menu.popup(row, x + Metrics.step, y + Metrics.step);
     }
 
     function slide(to: real) {
@@ -42,16 +46,18 @@ DeletableRow {
 
     Accessible.name: accessibleName
     Accessible.role: Accessible.ListItem
-    // A key that is held down deletes one record, not the whole list.
+    // A key that is held down deletes one record, not the whole list, and none that the user does
+    // not see to be the one.
     Keys.onDeletePressed: event => {
-        if (!event.isAutoRepeat)
+        if (row.isMarked && !event.isAutoRepeat)
             row.deleteRequested();
     }
     Keys.onEscapePressed: event => {
         event.accepted = row.offset > 0;
         row.close();
     }
-    Keys.onMenuPressed: row.showMenu()
+    Keys.onMenuPressed: if (row.isMarked)
+        row.showMenu(row.width / 2, row.height / 2)
     activeFocusOnTab: true
     implicitHeight: Metrics.rowHeight
     width: ListView.view ? ListView.view.width : implicitWidth
@@ -96,7 +102,8 @@ DeletableRow {
             TapHandler {
                 gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                onTapped: row.deleteRequested()
+                // The row goes all the way, so that a second tap does not meet the next one.
+                onTapped: row.slide(row.width)
             }
         }
         Rectangle {
@@ -115,8 +122,7 @@ DeletableRow {
 
                 gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                // The menu's own place is the mouse's, which a finger does not move.
-                onLongPressed: menu.popup(parent, point.position.x, point.position.y)
+                onLongPressed: row.showMenu(point.position.x, point.position.y)
                 onTapped: {
                     row.forceActiveFocus(Qt.MouseFocusReason);
                     row.offset > 0 ? row.close() : row.clicked();
@@ -125,7 +131,7 @@ DeletableRow {
             TapHandler {
                 acceptedButtons: Qt.RightButton
 
-                onTapped: menu.popup()
+                onTapped: eventPoint => row.showMenu(eventPoint.position.x, eventPoint.position.y)
             }
             DragHandler {
                 id: drag
