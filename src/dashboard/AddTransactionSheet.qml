@@ -13,6 +13,7 @@ Sheet {
     required property ContentState content
 
     presented: content.showAddTransaction
+    subject: content.addForm
     title: content.addForm ? content.addForm.navigationTitle : ""
 
     onClosed: content.addTransactionDidClose()

@@ -83,7 +83,7 @@ FocusScope {
 
         anchors.bottom: parent.bottom
         choices: screen.content.timeFrames
-        hasShortcuts: !screen.isCovered
+        hasShortcuts: visible && !screen.isCovered
         height: visible ? implicitHeight : 0
         selected: screen.content.selectedTimeFrame
         visible: screen.content.hasTransactions

@@ -17,6 +17,8 @@ Item {
     property color color: SystemColors.groupedBackground
     /*! How far down from the card's top it can be dragged. */
     property real barHeight: Math.max(56, Metrics.rowHeight)
+    /*! What the content is about: for another one it is made anew, should the sheet be called back. */
+    property QtObject subject: null
     /*! The shown content, null while the sheet is closed. */
     readonly property alias contentItem: loader.item
     /*! How far the sheet is open: 0 … 1. */
@@ -36,14 +38,22 @@ Item {
     }
 
     function close() {
+        // Another sheet may have opened meanwhile.
+        const hasFocus = layer.activeFocus || !sheet.Window.active;
         popup.close();
-        if (sheet.focusedBefore !== null)
+        if (hasFocus && sheet.focusedBefore !== null)
             sheet.focusedBefore.forceActiveFocus(Qt.PopupFocusReason);
         sheet.closed();
     }
 
+    function renew() {
+        loader.sourceComponent = null;
+        loader.sourceComponent = sheet.contentComponent;
+    }
+
     onPresentedChanged: if (presented)
         open()
+    onSubjectChanged: renew()
 
     Component.onCompleted: if (presented)
         open()

@@ -64,7 +64,9 @@ FocusScope {
         TapHandler {
             gesturePolicy: TapHandler.ReleaseWithinBounds
 
-            onTapped: layer.dismissed()
+            // The second tap on what opened the sheet is not for it.
+            onTapped: if (layer.position === 1)
+                layer.dismissed()
         }
     }
     Item {
@@ -73,7 +75,7 @@ FocusScope {
         height: layer.floating ? Math.min(layer.height - 80, 860) : layer.height - (layer.height < 500 ? 16 : 44)
         width: layer.wide ? Math.min(layer.width - 80, Metrics.readableWidth) : layer.width
         x: (layer.width - width) / 2
-        y: layer.height - (layer.floating ? (layer.height + height) / 2 : height) * layer.position
+        y: layer.height - layer.travel * layer.position
 
         Rectangle {
             anchors.bottomMargin: layer.floating ? 0 : -radius

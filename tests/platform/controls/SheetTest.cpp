@@ -112,6 +112,22 @@ TEST(Sheet, CanBeTurnedBackOnItsWay) {
         << "what was held on its way goes on";
 }
 
+TEST(Sheet, LeavesTheFocusToTheOneThatComes) {
+    Stage stage(R"(
+        property int shown: 0
+        FormTextField { objectName: 'behind' }
+        Sheet { objectName: 'first'; presented: shown === 1; title: 'First'; FormTextField {} }
+        Sheet { objectName: 'second'; presented: shown === 2; title: 'Second'; FormTextField { objectName: 'field' } })",
+                false);
+    stage.item("behind")->forceActiveFocus();
+    for (const char* name : {"first", "second"}) {
+        stage.set("shown", stage.get("shown").toInt() + 1);
+        EXPECT_TRUE(Stage::soon([&] { return stage.get("position", name) == 1; }));
+    }
+    EXPECT_TRUE(Stage::soon([&] { return stage.get("position", "first") == 0; }));
+    EXPECT_TRUE(stage.item("field")->isAncestorOf(stage.window()->activeFocusItem()));
+}
+
 TEST(Sheet, IsACardOnAWideWindow) {
     SheetStage stage;
     stage.window()->resize(1600, 1000);
