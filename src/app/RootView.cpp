@@ -22,6 +22,9 @@ RootView::RootView(ManagedObjectContext& viewContext)
       m_onboarding(onboardingPages),
       m_content(viewContext, &ReviewHandler::requestReviewIfAppropriate) {
     connect(&m_onboarding, &OnboardingView::finished, this, &RootView::finishOnboarding);
+    connect(&m_look, &QTimer::timeout, this, &RootView::showToday);
+    m_look.setTimerType(Qt::VeryCoarseTimer);
+    m_look.start(std::chrono::minutes(1));
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             [this](Qt::ApplicationState state) {
                 if (state == Qt::ApplicationActive)

@@ -5,6 +5,7 @@
 #include "platform/foundation/Calendar.h"
 
 #include <QObject>
+#include <QTimer>
 #include <QtQml/qqmlregistration.h>
 
 namespace kovamo {
@@ -43,6 +44,7 @@ class RootView : public QObject {
     void showToday();
 
     CalendarDay m_today;
+    QTimer m_look;
     bool m_onboardingFinished;
     OnboardingView m_onboarding;
     ContentView m_content;
