@@ -266,6 +266,16 @@ TEST_F(NothingLost, WhenTwoProcessesWrite) {
     }
 }
 
+TEST_F(NothingLost, AndWhatAnotherProcessSavesIsSeen) {
+    const Book other({{5}});
+    auto& context = PersistenceController::shared().container->viewContext();
+    const Transaction* record = context.fetch<Transaction>(transactions()).front();
+    EXPECT_EQ(record->amount(), 5);
+    other.elsewhere("UPDATE \"Transaction\" SET amount = 7");
+    (void)context.count(transactions());
+    EXPECT_EQ(record->amount(), 7);
+}
+
 TEST_F(NothingLost, WhileTheStateBeforeTheFirstWriteIsKeptForThreeDays) {
     {
         Book book;
