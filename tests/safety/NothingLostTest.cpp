@@ -230,7 +230,7 @@ TEST_F(NothingLost, WhenTheFileIsDamaged) {
             EXPECT_TRUE(isRefused(QByteArray(good).replace(at, page, over)));
         EXPECT_TRUE(isRefused(good.first(at)) && isRefused(good.first(at + 100)));
     }
-    for (int round = 0; round < rounds(200); ++round) {
+    for (int round = 0; round < rounds(100); ++round) {
         const auto at = static_cast<qsizetype>(random()) % (round % 4 ? good.size() : page);
         SCOPED_TRACE(at);
         QByteArray bytes = good;
