@@ -45,9 +45,6 @@ NavigationStack {
                     close();
             }
             onClicked: screen.open(index)
-            // The Delete key is for the row that was pulled aside, not for another one.
-            onOpenedChanged: if (opened)
-                row.forceActiveFocus(Qt.MouseFocusReason)
             onDeleteRequested: screen.transactions.remove([index])
 
             TransactionRow {

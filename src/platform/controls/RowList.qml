@@ -6,8 +6,6 @@ import Kovamo.Controls
 ListView {
     id: list
 
-    readonly property bool ringed: (currentItem as Focusable)?.visualFocus ?? false
-
     /*! The row to which a key leads; -1 for none. */
     function rowFor(key: int): int {
         const page = Math.max(1, Math.floor(list.height / (list.currentItem?.height ?? list.height)) - 1);
@@ -37,6 +35,13 @@ ListView {
         if (event.accepted)
             list.currentIndex = row;
     }
-    onRingedChanged: if (ringed)
-        positionViewAtIndex(currentIndex, ListView.Contain)
+
+    Connections {
+        function onVisualFocusChanged() {
+            if ((list.currentItem as Focusable).visualFocus)
+                list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+        }
+
+        target: list.currentItem as Focusable
+    }
 }

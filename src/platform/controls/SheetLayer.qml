@@ -14,7 +14,7 @@ FocusScope {
     readonly property bool wide: width >= 700
     readonly property bool floating: wide && height >= 600
     /*! The bottom of the open card, and the top of the on-screen keyboard. */
-    readonly property real cardBottom: floating ? (height + card.height) / 2 : height
+    readonly property real cardBottom: height - travel + card.height
     property real keyboardTop: InputMethod.visible && InputMethod.keyboardRectangle.height > 0 ? InputMethod.keyboardRectangle.y : Infinity
     readonly property real travel: floating ? (height + card.height) / 2 : card.height
 

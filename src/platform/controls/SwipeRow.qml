@@ -66,6 +66,9 @@ DeletableRow {
     ListView.onPooled: row.rest()
     ListView.onReused: row.visible = true
     onActivated: row.clicked()
+    // The Delete key is for the row that was pulled aside, not for another one.
+    onOpenedChanged: if (opened)
+        row.forceActiveFocus(Qt.MouseFocusReason)
 
     NumberAnimation {
         id: movement
