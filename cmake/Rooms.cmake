@@ -20,6 +20,11 @@ endfunction()
 function(kovamo_qml_room name)
     cmake_parse_arguments(ROOM "" "URI" "SOURCES;QML;SINGLETONS;RESOURCES;DEPENDENCIES;LINKS" ${ARGN})
     set_source_files_properties(${ROOM_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+    # A module's files may lie in folders of the room; in the module they lie side by side.
+    foreach(file IN LISTS ROOM_QML ROOM_SINGLETONS)
+        cmake_path(GET file FILENAME alias)
+        set_source_files_properties(${file} PROPERTIES QT_RESOURCE_ALIAS ${alias})
+    endforeach()
     qt_add_library(kovamo_${name} STATIC)
     string(REPLACE "." "/" path ${ROOM_URI})
     # Compiled QML starts faster, and takes longer to build than all else together.
@@ -48,6 +53,10 @@ function(kovamo_qml_room name)
     set_source_files_properties(
         ${CMAKE_CURRENT_BINARY_DIR}/CMakeFiles/kovamo_${name}.dir/Unity/unity_qml_cxx.cxx
         PROPERTIES COMPILE_OPTIONS -w)
-    target_include_directories(kovamo_${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
+    # The code that registers the types includes each header by its bare name.
+    foreach(file IN LISTS ROOM_SOURCES)
+        cmake_path(GET file PARENT_PATH folder)
+        target_include_directories(kovamo_${name} PRIVATE ${CMAKE_CURRENT_SOURCE_DIR}/${folder})
+    endforeach()
     target_link_libraries(kovamo_${name} PUBLIC kovamo_options Qt6::Qml ${ROOM_LINKS})
 endfunction()

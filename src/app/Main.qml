@@ -2,7 +2,7 @@ import QtQuick
 import Kovamo.App
 import Kovamo.Controls
 import Kovamo.Dashboard
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The app's one window. */
 Window {

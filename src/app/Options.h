@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/foundation/SystemColors.h"
+#include "platform/desktop/SystemColors.h"
 
 #include <QStringList>
 #include <optional>

@@ -2,7 +2,7 @@
 
 #include "RootView.h"
 #include "SampleData.h"
-#include "platform/foundation/ReviewController.h"
+#include "platform/desktop/ReviewController.h"
 
 #include <QCoreApplication>
 #include <QDir>

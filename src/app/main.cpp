@@ -5,8 +5,8 @@
 #include "SampleData.h"
 #include "SoleInstance.h"
 #include "platform/controls/AccessibleItems.h"
-#include "platform/controls/EmojiText.h"
-#include "platform/foundation/DesktopSettings.h"
+#include "platform/controls/text/EmojiText.h"
+#include "platform/desktop/DesktopSettings.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QDir>

@@ -1,7 +1,7 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Dashboard
-import Kovamo.Foundation
+import Kovamo.Desktop
 import Kovamo.Views
 
 /*! The card with the verdict and the balance. */

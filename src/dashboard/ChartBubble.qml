@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The small card above a chart's column. */
 Rectangle {

@@ -1,7 +1,7 @@
 #include "ContentView.h"
 
 #include "platform/foundation/NotificationCenter.h"
-#include "platform/objectstore/StoreError.h"
+#include "platform/objectstore/file/StoreError.h"
 
 #include <utility>
 

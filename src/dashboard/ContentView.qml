@@ -1,7 +1,7 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Dashboard
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The main screen: balance, chart and list of the selected time frame. */
 FocusScope {

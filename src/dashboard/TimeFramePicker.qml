@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Dashboard
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! Three texts to choose the time frame by. */
 Column {

@@ -1,7 +1,7 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Dashboard
-import Kovamo.Foundation
+import Kovamo.Desktop
 import Kovamo.Views
 
 /*! The chart with its title and range. Held, hovered or walked along by the arrow keys, it shows

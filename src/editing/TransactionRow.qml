@@ -1,7 +1,7 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Editing
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The line that stands for a transaction: emoji, title, the mark of a recurrence, the amount. Where
     large text leaves the title no room, the amount stands below it. */

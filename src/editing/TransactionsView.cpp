@@ -1,7 +1,7 @@
 #include "TransactionsView.h"
 
 #include "TransactionLine.h"
-#include "platform/objectstore/StoreError.h"
+#include "platform/objectstore/file/StoreError.h"
 
 namespace kovamo {
 

@@ -1,6 +1,6 @@
 #include "GradientPanel.h"
 
-#include "platform/foundation/SystemColors.h"
+#include "platform/desktop/SystemColors.h"
 #include "platform/views/Shape.h"
 
 #include <QLinearGradient>

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Engagement
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! One picture of the onboarding, filling its page: scaled up to its edges, the overflow cropped. */
 Item {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Engagement
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The onboarding: pages to swipe, and on them a row of dots above one large button. */
 FocusScope {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Engagement
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! Five stars to choose from. */
 Row {

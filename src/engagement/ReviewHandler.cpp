@@ -1,10 +1,10 @@
 #include "ReviewHandler.h"
 
+#include "platform/desktop/ReviewController.h"
+#include "platform/desktop/Scenes.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/CheckedArithmetic.h"
 #include "platform/foundation/MainQueue.h"
-#include "platform/foundation/ReviewController.h"
-#include "platform/foundation/Scenes.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <algorithm>

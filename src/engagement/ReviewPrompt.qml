@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Kovamo.Controls
 import Kovamo.Engagement
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The platform's rating prompt: a small card in the middle of its window, beside which the app
     goes on. The shell keeps one in its window and says whether a sheet is up. */

@@ -2,7 +2,7 @@
 
 #include "Recurrence.h"
 #include "platform/foundation/RadixSort.h"
-#include "platform/objectstore/StoreError.h"
+#include "platform/objectstore/file/StoreError.h"
 
 #include <iterator>
 

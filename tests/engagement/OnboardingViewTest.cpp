@@ -1,5 +1,5 @@
 #include "engagement/OnboardingView.h"
-#include "platform/foundation/SystemColors.h"
+#include "platform/desktop/SystemColors.h"
 #include "support/Stage.h"
 
 #include <QSignalSpy>

@@ -1,6 +1,6 @@
 #include "engagement/ReviewHandler.h"
+#include "platform/desktop/ReviewController.h"
 #include "platform/foundation/Bundle.h"
-#include "platform/foundation/ReviewController.h"
 #include "platform/foundation/UserDefaults.h"
 #include "support/FastQueue.h"
 #include "support/World.h"

@@ -6,7 +6,7 @@
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
 #include "platform/objectstore/Store.h"
-#include "platform/objectstore/StoreError.h"
+#include "platform/objectstore/file/StoreError.h"
 
 #include <QFile>
 

@@ -9,7 +9,7 @@ Stage::Stage(const char* body, bool reducedMotion, const char* module, QObject* 
     failOnWarnings(m_engine);
     QQmlComponent component(&m_engine);
     const QString qml = QStringLiteral("import QtQuick; import Kovamo.Controls\n"
-                                       "import Kovamo.Forms; import Kovamo.Foundation; import %1\n"
+                                       "import Kovamo.Forms; import Kovamo.Desktop; import %1\n"
                                        "Item { property QtObject subject; property string log\n"
                                        "Component.onCompleted: Motion.reduced = %2\n%3\n}")
                             .arg(QLatin1String(module), QVariant(reducedMotion).toString(),

@@ -14,7 +14,7 @@ class Stage {
     /// Shows `body`, the members of an item as large as the window, at 390 by 844. It may use a
     /// further QML `module` and an object by the name of `subject`.
     explicit Stage(const char* body, bool reducedMotion = true,
-                   const char* module = "Kovamo.Foundation", QObject* subject = nullptr);
+                   const char* module = "Kovamo.Desktop", QObject* subject = nullptr);
     Q_DISABLE_COPY_MOVE(Stage)
 
     [[nodiscard]] QQuickWindow* window() { return &m_window; }

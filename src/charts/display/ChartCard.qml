@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Charts
-import Kovamo.Foundation
+import Kovamo.Desktop
 import Kovamo.Views
 
 /// A display chart on a card: its title, its plot, its legend, and a magnifier over the plot that

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Charts
-import Kovamo.Foundation
+import Kovamo.Desktop
 import Kovamo.Views
 
 /// A lens that stands above the place of a reading, with the reading's words over it; it keeps

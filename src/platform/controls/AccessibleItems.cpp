@@ -1,6 +1,6 @@
 #include "AccessibleItems.h"
 
-#include "DeletableRow.h"
+#include "platform/controls/rows/DeletableRow.h"
 
 #include <QAccessibleObject>
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The one thing to do on an empty screen: a symbol and a text on a soft capsule. */
 Pressable {

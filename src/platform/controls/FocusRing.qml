@@ -1,5 +1,5 @@
 import QtQuick
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The ring around what the keyboard talks to. */
 Rectangle {

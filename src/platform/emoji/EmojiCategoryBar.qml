@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Emoji
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The categories of emoji, side by side, to jump to. */
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! One emoji to choose; nothing where a row is not full. */
 Item {

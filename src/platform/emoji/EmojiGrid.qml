@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Emoji
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! Emoji by category, to scroll through or to walk along by the arrow keys. */
 Focusable {

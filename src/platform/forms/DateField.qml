@@ -1,7 +1,7 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Forms
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A row that shows a day and unfolds a month to pick another from. The owner holds the moment: it
     hears `picked` and sets `moment`. Moments are milliseconds since 1970 UTC. */

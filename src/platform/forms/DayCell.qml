@@ -1,7 +1,7 @@
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Forms
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! One day of a month: its number, on a disc when it is the picked one. */
 Item {

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A card of rows in a form, with a hairline between one visible row and the next. */
 Rectangle {

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import QtQuick.Templates as T
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A field for one line of plain text of any length. The owner holds the text: it hears `edited`
     and sets `text`, to what was typed or to something else. */

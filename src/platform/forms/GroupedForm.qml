@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A scrolling form of sections on the grouped background. The field that has the focus stays in
     sight, also when the form becomes lower, and with it what the field unfolds. */

@@ -2,7 +2,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
 import Kovamo.Forms
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A month's days under the names of the week's, and the way to the months around it. */
 Column {

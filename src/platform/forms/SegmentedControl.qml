@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! One choice out of a few, side by side. The owner holds the choice: it hears `picked` and sets
     `selected`. */

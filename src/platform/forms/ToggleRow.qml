@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A row with a switch. The owner holds the state: it hears `toggled` and sets `checked`. */
 FormRow {

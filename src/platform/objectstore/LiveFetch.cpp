@@ -1,6 +1,6 @@
 #include "LiveFetch.h"
 
-#include "StoreError.h"
+#include "platform/objectstore/file/StoreError.h"
 
 #include <algorithm>
 

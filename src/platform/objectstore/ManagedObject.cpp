@@ -1,8 +1,8 @@
 #include "ManagedObject.h"
 
 #include "ManagedObjectContext.h"
-#include "StoreError.h"
 #include "platform/foundation/FatalError.h"
+#include "platform/objectstore/file/StoreError.h"
 
 namespace kovamo {
 

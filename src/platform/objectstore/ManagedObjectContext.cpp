@@ -1,9 +1,9 @@
 #include "ManagedObjectContext.h"
 
 #include "Store.h"
-#include "StoreError.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/MainQueue.h"
+#include "platform/objectstore/file/StoreError.h"
 
 #include <QPointer>
 #include <utility>

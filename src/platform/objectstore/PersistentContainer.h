@@ -2,7 +2,7 @@
 
 #include "EntityDescription.h"
 #include "ManagedObjectContext.h"
-#include "StoreError.h"
+#include "platform/objectstore/file/StoreError.h"
 
 #include <functional>
 #include <memory>

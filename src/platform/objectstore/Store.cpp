@@ -1,11 +1,11 @@
 #include "Store.h"
 
 #include "ManagedObjectContext.h"
-#include "Soundness.h"
-#include "StoreError.h"
-#include "StoreFile.h"
 #include "StoredValue.h"
 #include "platform/foundation/RadixSort.h"
+#include "platform/objectstore/file/Soundness.h"
+#include "platform/objectstore/file/StoreError.h"
+#include "platform/objectstore/file/StoreFile.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>

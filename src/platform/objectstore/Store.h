@@ -3,8 +3,8 @@
 #include "EntityTable.h"
 #include "FetchRequest.h"
 #include "StatementCache.h"
-#include "StoreCopy.h"
 #include "platform/foundation/Calendar.h"
+#include "platform/objectstore/file/StoreCopy.h"
 
 #include <QSet>
 #include <SQLiteCpp/Database.h>

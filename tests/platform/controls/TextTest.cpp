@@ -1,6 +1,6 @@
 #include "support/Stage.h"
 
-#include "platform/foundation/SystemColors.h"
+#include "platform/desktop/SystemColors.h"
 
 namespace kovamo {
 namespace {

@@ -1,5 +1,5 @@
 import QtQuick
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A hairline between two things: across a column, or down a row when `vertical`. */
 Rectangle {

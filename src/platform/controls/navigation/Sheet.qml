@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A modal sheet that its owner's flag opens and closes: it slides up from the bottom, dims what is
     behind and leaves a strip of it in sight. What it shows is made when it opens and goes when it

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A row of a list that is pulled aside to uncover "Delete"; pulled far enough, it deletes. The
     Delete key and the row's menu do the same. */

@@ -1,4 +1,4 @@
-#include "gallery/Gallery.h"
+#include "examples/gallery/Gallery.h"
 
 #include "platform/views/Raster.h"
 #include "support/Hand.h"

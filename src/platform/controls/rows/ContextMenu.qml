@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A small menu at the place it was asked for. */
 T.Menu {

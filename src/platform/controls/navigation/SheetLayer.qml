@@ -1,5 +1,5 @@
 import QtQuick
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! What a sheet draws over the window: the dimmed screen and the card that slides over it. */
 FocusScope {

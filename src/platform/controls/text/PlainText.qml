@@ -1,5 +1,5 @@
 import QtQuick
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! One line of text, shown as it is written: the user's words are never taken for markup. */
 Text {

@@ -1,5 +1,5 @@
 import QtQuick
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! The look of a pressed row, rounded where its card is. */
 Rectangle {

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A button of a bar: a system symbol in the accent colour, its text for those who listen. */
 Pressable {

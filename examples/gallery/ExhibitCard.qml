@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Charts
-import Kovamo.Foundation
+import Kovamo.Desktop
 import Kovamo.Gallery
 import Kovamo.Views
 

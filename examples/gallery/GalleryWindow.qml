@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Window
-import Kovamo.Foundation
+import Kovamo.Desktop
 import Kovamo.Gallery
 
 /// The gallery's window: a list of exhibits, and a word that changes the appearance.

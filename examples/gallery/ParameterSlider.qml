@@ -1,6 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
-import Kovamo.Foundation
+import Kovamo.Desktop
 import Kovamo.Gallery
 
 /// A slider with the name and the value of what it sets.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Focusable.h"
+#include "platform/controls/Focusable.h"
 
 namespace kovamo {
 

@@ -1,8 +1,8 @@
 #include "ReviewController.h"
 
-#include "Clock.h"
-#include "MainQueue.h"
-#include "UserDefaults.h"
+#include "platform/foundation/Clock.h"
+#include "platform/foundation/MainQueue.h"
+#include "platform/foundation/UserDefaults.h"
 
 #include <QDesktopServices>
 #include <QFile>

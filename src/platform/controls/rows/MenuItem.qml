@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Templates as T
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! A line of a menu: its text and a symbol, red where it destroys. */
 T.MenuItem {

@@ -1,6 +1,6 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Foundation
+import Kovamo.Desktop
 
 /*! Goes back one page: a chevron that points against the reading direction, and a word. */
 Pressable {
