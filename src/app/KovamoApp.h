@@ -9,9 +9,9 @@ namespace kovamo {
 
 class RootView;
 
-/// The app: the store, taken at its creation, and one window.
+/// The app: the store, and one window.
 struct KovamoApp {
-    PersistenceController persistenceController = PersistenceController::shared();
+    PersistenceController persistenceController;
 
     /// Loads the window that shows `root` into `engine`. A window that does not load is a fatal
     /// error.

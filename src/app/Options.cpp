@@ -1,8 +1,38 @@
 #include "Options.h"
 
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
 namespace kovamo {
 
 namespace {
+
+constexpr const char* programName = "kovamo";
+
+/// The options as Qt parses and explains them.
+struct CommandLine {
+    CommandLine() {
+        parser.setApplicationDescription(
+            QStringLiteral("Will you be in the black this month, in three months, in a year?"));
+        parser.addOptions({demo, appearance, pictures, version, help});
+    }
+
+    QCommandLineOption demo{QStringLiteral("demo"),
+                            QStringLiteral("Show sample data in a store that is thrown away.")};
+    QCommandLineOption appearance{
+        QStringLiteral("appearance"),
+        QStringLiteral("Use this appearance in place of the desktop's: light or dark."),
+        QStringLiteral("light|dark")};
+    QCommandLineOption pictures{
+        QStringLiteral("pictures"),
+        QStringLiteral("Draw every screen with sample data into this folder, without a display."),
+        QStringLiteral("folder")};
+    QCommandLineOption version{{QStringLiteral("v"), QStringLiteral("version")},
+                               QStringLiteral("Print the version.")};
+    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")},
+                            QStringLiteral("Print this help.")};
+    QCommandLineParser parser;
+};
 
 std::optional<ColorScheme> scheme(const QString& name) {
     if (name == u"light")
@@ -14,31 +44,35 @@ std::optional<ColorScheme> scheme(const QString& name) {
 
 } // namespace
 
-QString usage() {
-    return QStringLiteral("Usage: kovamo [--demo] [--appearance light|dark] [--pictures FOLDER] "
-                          "[--gallery] [--version] [--help]");
+Options parsedOptions(const QStringList& arguments) {
+    CommandLine line;
+    Options options;
+    if (!line.parser.parse(QStringList(QString::fromLatin1(programName)) + arguments)) {
+        options.error = line.parser.errorText();
+        return options;
+    }
+    options.isDemo = line.parser.isSet(line.demo);
+    options.wantsVersion = line.parser.isSet(line.version);
+    options.wantsHelp = line.parser.isSet(line.help);
+    if (line.parser.isSet(line.pictures))
+        options.pictures = line.parser.value(line.pictures);
+    if (line.parser.isSet(line.appearance)) {
+        options.appearance = scheme(line.parser.value(line.appearance));
+        if (!options.appearance)
+            options.error = QStringLiteral("The appearance is light or dark.");
+    }
+    if (const QStringList rest = line.parser.positionalArguments(); !rest.isEmpty())
+        options.error = u"Not understood: " + rest.join(u' ');
+    return options;
 }
 
-std::optional<Options> parsedOptions(const QStringList& arguments) {
-    Options options;
-    for (auto argument = arguments.begin(); argument != arguments.end(); ++argument) {
-        const bool hasValue = argument + 1 != arguments.end();
-        if (*argument == u"--demo")
-            options.isDemo = true;
-        else if (*argument == u"--gallery")
-            options.isGallery = true;
-        else if (*argument == u"--version")
-            options.wantsVersion = true;
-        else if (*argument == u"--help")
-            options.wantsHelp = true;
-        else if (*argument == u"--pictures" && hasValue)
-            options.pictures = *++argument;
-        else if (*argument == u"--appearance" && hasValue && scheme(*(argument + 1)))
-            options.appearance = scheme(*++argument);
-        else
-            return std::nullopt;
-    }
-    return options;
+QString helpText() {
+    // Qt takes the program's name from the application that runs.
+    QByteArray name(programName);
+    char* arguments[] = {name.data()};
+    int count = 1;
+    const QCoreApplication application(count, arguments);
+    return CommandLine().parser.helpText().trimmed();
 }
 
 } // namespace kovamo

@@ -1,16 +1,13 @@
+#include "GuiSetup.h"
 #include "KovamoApp.h"
 #include "Options.h"
 #include "Pictures.h"
 #include "RootView.h"
 #include "SampleData.h"
 #include "SoleInstance.h"
-#include "platform/controls/AccessibleItems.h"
-#include "platform/controls/text/EmojiText.h"
 #include "platform/desktop/DesktopSettings.h"
 #include "platform/foundation/UserDefaults.h"
 
-#include <QDir>
-#include <QFontInfo>
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
@@ -21,34 +18,39 @@
 
 namespace {
 
-constexpr int usageError = 2;
+using namespace kovamo;
+
+constexpr int wrongCall = 2;
+
+QStringList argumentsOf(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+/// Answers a command line that asks for words alone, or is not understood; nothing for any other.
+std::optional<int> answered(const Options& options) {
+    if (!options.error.isEmpty()) {
+        std::fprintf(stderr, "%s\nTry: kovamo --help\n", qPrintable(options.error));
+        return wrongCall;
+    }
+    if (!options.wantsHelp && !options.wantsVersion)
+        return std::nullopt;
+    std::printf("%s\n", options.wantsHelp ? qPrintable(helpText()) : "Kovamo " KOVAMO_VERSION);
+    return 0;
+}
 
 /// Points the store and the preferences at a folder that goes with the process.
 void moveInto(const QTemporaryDir& scratch) {
     qputenv("XDG_DATA_HOME", scratch.filePath(QStringLiteral("data")).toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", scratch.filePath(QStringLiteral("config")).toLocal8Bit());
+    std::printf("Sample data in a throwaway store: nothing is kept.\n");
+    std::fflush(stdout);
 }
 
-/// Without a render device the toolkit's OpenGL path takes several times as long to its first
-/// frame as its software renderer. What the environment asks for goes first.
-void chooseRenderer() {
-    const QDir devices(QStringLiteral("/dev/dri"));
-    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND") &&
-        devices.entryList({QStringLiteral("renderD*")}, QDir::System).isEmpty())
-        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
-}
-
-/// Puts the colour emoji font right behind those for text, before fonts that draw the same
-/// characters in black. A language's own font may lack the digits, which the emoji font has too: a
-/// font for Latin goes between.
-void preferColourEmoji() {
-    QFont font = QGuiApplication::font();
-    const QStringList families{QFontInfo(font).family(), QStringLiteral("Noto Sans"),
-                               kovamo::emojiFontFamily()};
-    // Text fields have a font of their own and are not asked for its families.
-    QFont::insertSubstitutions(font.family(), families);
-    font.setFamilies(families);
-    QGuiApplication::setFont(font);
+ManagedObjectContext& viewContext(const KovamoApp& app) {
+    return app.persistenceController.container->viewContext();
 }
 
 void raise(QWindow& window) {
@@ -57,84 +59,66 @@ void raise(QWindow& window) {
     window.requestActivate();
 }
 
-int showGallery() {
+/// Keeps the window's motion and size of text as the desktop wants them.
+void follow(const DesktopSettings& desktop, QQuickWindow& window) {
+    QObject::connect(&desktop, &DesktopSettings::reducedMotionChanged, &window,
+                     [&] { window.setProperty("reducedMotion", desktop.reducedMotion()); });
+    // On X the size of text is in the screen's resolution, which Qt scales everything by.
+    if (QGuiApplication::platformName().startsWith(u"wayland"))
+        QObject::connect(&desktop, &DesktopSettings::textScaleChanged, &window,
+                         [&] { window.setProperty("textScale", desktop.textScale()); });
+}
+
+int draw(const Options& options) {
+    const KovamoApp app{PersistenceController::shared()};
+    RootView root(viewContext(app));
     QQmlApplicationEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Kovamo/Gallery/GalleryWindow.qml")));
-    return engine.rootObjects().isEmpty() ? 1 : QGuiApplication::exec();
+    QQuickWindow& window = KovamoApp::showWindow(engine, root);
+    const QList<ColorScheme> appearances = options.appearance
+                                               ? QList{*options.appearance}
+                                               : QList{ColorScheme::light, ColorScheme::dark};
+    return drawPictures(window, root, viewContext(app), appearances, *options.pictures) ? 0 : 1;
+}
+
+int show(const Options& options) {
+    const DesktopSettings desktop(!options.appearance);
+    std::optional<SoleInstance> instance;
+    if (!options.isDemo)
+        instance.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    if (instance && instance->handedOver())
+        return 0;
+    // Here the store is opened, or the process ends.
+    const KovamoApp app{PersistenceController::shared()};
+    if (options.isDemo) {
+        addSampleData(viewContext(app));
+        UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
+    }
+    RootView root(viewContext(app));
+    QQmlApplicationEngine engine;
+    QQuickWindow& window = KovamoApp::showWindow(engine, root);
+    if (instance)
+        QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
+                         [&] { raise(window); });
+    follow(desktop, window);
+    return QGuiApplication::exec();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    using namespace kovamo;
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    const std::optional<Options> options = parsedOptions(arguments);
-    if (!options) {
-        std::fprintf(stderr, "%s\n", qPrintable(usage()));
-        return usageError;
-    }
-    if (options->wantsHelp || options->wantsVersion) {
-        std::printf(
-            "%s\n",
-            qPrintable(options->wantsHelp ? usage() : QStringLiteral("Kovamo " KOVAMO_VERSION)));
-        return 0;
-    }
-
+    const Options options = parsedOptions(argumentsOf(argc, argv));
+    if (const std::optional<int> status = answered(options))
+        return *status;
     std::optional<QTemporaryDir> scratch;
-    if (options->isDemo || options->pictures) {
-        scratch.emplace();
-        moveInto(*scratch);
-        std::printf("Sample data in a throwaway store: nothing is kept.\n");
-        std::fflush(stdout);
-    }
-    if (options->pictures && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    if (options.isDemo || options.pictures)
+        moveInto(scratch.emplace());
+    if (options.pictures && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     chooseRenderer();
-    int toolkitArguments = 1;
-    const QGuiApplication application(toolkitArguments, argv);
-    preferColourEmoji();
-    installAccessibleItems();
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Kovamo"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.kovamo.Kovamo"));
-
-    QGuiApplication::setLayoutDirection(RootView::isMirrored() ? Qt::RightToLeft : Qt::LeftToRight);
-    if (options->appearance)
-        SystemColors::shared().setColorScheme(*options->appearance);
-    DesktopSettings desktop(!options->appearance && !options->pictures);
-
-    if (options->isGallery && !options->pictures)
-        return showGallery();
-    std::optional<SoleInstance> instance;
-    if (!scratch)
-        instance.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    if (instance && instance->handedOver())
-        return 0;
-    const KovamoApp app;
-    ManagedObjectContext& viewContext = app.persistenceController.container->viewContext();
-    if (options->isDemo && !options->pictures) {
-        addSampleData(viewContext);
-        UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
-    }
-    RootView root(viewContext);
-    QQmlApplicationEngine engine;
-    QQuickWindow& window = KovamoApp::showWindow(engine, root);
-    if (options->pictures) {
-        const QList<ColorScheme> both{ColorScheme::light, ColorScheme::dark};
-        const QList<ColorScheme> appearances =
-            options->appearance ? QList{*options->appearance} : both;
-        return drawPictures(window, root, viewContext, appearances, *options->pictures) ? 0 : 1;
-    }
-    if (instance)
-        QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
-                         [&] { raise(window); });
-    const auto followMotion = [&] { window.setProperty("reducedMotion", desktop.reducedMotion()); };
-    QObject::connect(&desktop, &DesktopSettings::reducedMotionChanged, &window, followMotion);
-    // On X the size of text is in the screen's resolution, which the toolkit scales everything by.
-    const auto followText = [&] { window.setProperty("textScale", desktop.textScale()); };
-    if (QGuiApplication::platformName().startsWith(u"wayland"))
-        QObject::connect(&desktop, &DesktopSettings::textScaleChanged, &window, followText);
-    return QGuiApplication::exec();
+    int qtArguments = 1;
+    const QGuiApplication application(qtArguments, argv);
+    setUpApplication();
+    if (options.appearance)
+        SystemColors::shared().setColorScheme(*options.appearance);
+    return options.pictures ? draw(options) : show(options);
 }

@@ -19,14 +19,18 @@ struct Ended : QProcess {
     QByteArray output, errors;
 };
 
-TEST(Options, UnknownOnesPrintTheUsage) {
+TEST(Options, AreExplainedAndUnknownOnesRefused) {
     for (const char* wrong :
-         {"--frob", "demo", "--appearance", "--appearance sepia", "--pictures"}) {
+         {"--frob", "--appearance", "--appearance sepia", "--appearance=sepia", "--pictures"}) {
         const Ended run(QString::fromUtf8(wrong).split(u' '));
         EXPECT_EQ(run.exitCode(), 2) << wrong;
-        EXPECT_TRUE(run.errors.startsWith("Usage: kovamo ")) << wrong;
+        EXPECT_TRUE(run.errors.endsWith("Try: kovamo --help\n")) << wrong;
         EXPECT_EQ(run.output, "") << wrong;
     }
+    const Ended help({QStringLiteral("--appearance=dark"), QStringLiteral("--help")});
+    EXPECT_EQ(help.exitCode(), 0);
+    for (const char* part : {"Usage: kovamo [options]", "--demo", "--appearance <light|dark>"})
+        EXPECT_TRUE(help.output.contains(part)) << part;
 }
 
 TEST(Options, PicturesShowEveryScreenAndTouchNothingOfTheUsers) {
