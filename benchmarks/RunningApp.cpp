@@ -26,6 +26,7 @@ std::unique_ptr<PersistentContainer> loaded() {
 } // namespace
 
 void makeStore(const QTemporaryDir& folder, const Ledger& ledger) {
+    KovamoApp::describe();
     for (const char* variable : {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"})
         qputenv(variable, folder.path().toLocal8Bit());
     UserDefaults::reopenStandard();

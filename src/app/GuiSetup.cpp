@@ -3,6 +3,7 @@
 #include "RootView.h"
 #include "platform/controls/AccessibleItems.h"
 #include "platform/controls/text/EmojiText.h"
+#include "platform/foundation/Bundle.h"
 
 #include <QDir>
 #include <QFontInfo>
@@ -38,8 +39,8 @@ void chooseRenderer() {
 void setUpApplication() {
     preferColourEmoji();
     installAccessibleItems();
-    QGuiApplication::setApplicationDisplayName(QStringLiteral("Kovamo"));
-    QGuiApplication::setDesktopFileName(QStringLiteral("org.kovamo.Kovamo"));
+    QGuiApplication::setApplicationDisplayName(Bundle::main().text(kCFBundleNameKey));
+    QGuiApplication::setDesktopFileName(Bundle::main().text(kCFBundleIdentifierKey));
     QGuiApplication::setLayoutDirection(RootView::isMirrored() ? Qt::RightToLeft : Qt::LeftToRight);
 }
 

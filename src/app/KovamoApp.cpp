@@ -2,8 +2,15 @@
 
 #include "RootView.h"
 #include "platform/controls/QmlWindow.h"
+#include "platform/foundation/Bundle.h"
 
 namespace kovamo {
+
+void KovamoApp::describe() {
+    Bundle::main().setInfoDictionary({{kCFBundleNameKey, QStringLiteral("Kovamo")},
+                                      {kCFBundleIdentifierKey, QStringLiteral("org.kovamo.Kovamo")},
+                                      {kCFBundleVersionKey, QStringLiteral(KOVAMO_BUILD_NUMBER)}});
+}
 
 QQuickWindow& KovamoApp::showWindow(QQmlApplicationEngine& engine, RootView& root) {
     return loadWindow(engine, QStringLiteral("Kovamo/App/Main.qml"),

@@ -2,7 +2,7 @@
 
 #include "RootView.h"
 #include "SampleData.h"
-#include "platform/desktop/ReviewController.h"
+#include "platform/desktop/StoreReviewController.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -65,10 +65,10 @@ QList<Picture> screens(QQuickWindow& window, RootView& root, ManagedObjectContex
         {"current-month", [&] { addSampleData(context); }},
         {"three-months", [&] { content.select(2); }},
         {"twelve-months", [&] { content.select(3); }},
-        {"rating-prompt", [&] { ReviewController::requestReview(window); }},
+        {"rating-prompt", [&] { StoreReviewController::requestReview(window); }},
         {"new-transaction",
          [&] {
-             ReviewController::shared().dismiss();
+             StoreReviewController::shared().dismiss();
              content.setShowAddTransaction(true);
          }},
         {"emoji", [set] { set("choosesEmoji", true); }},

@@ -106,6 +106,7 @@ int show(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
+    KovamoApp::describe();
     const Options options = parsedOptions(argumentsOf(argc, argv));
     if (const std::optional<int> status = answered(options))
         return *status;

@@ -1,7 +1,7 @@
 #include "ReviewHandler.h"
 
-#include "platform/desktop/ReviewController.h"
 #include "platform/desktop/Scenes.h"
+#include "platform/desktop/StoreReviewController.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/CheckedArithmetic.h"
 #include "platform/foundation/MainQueue.h"
@@ -29,7 +29,7 @@ void requestReview() {
         return scene.activationState == ActivationState::foregroundActive;
     });
     if (active != scenes.end() && active->window)
-        ReviewController::requestReview(*active->window);
+        StoreReviewController::requestReview(*active->window);
 }
 
 } // namespace

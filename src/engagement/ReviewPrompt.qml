@@ -19,7 +19,7 @@ T.Popup {
     height: column.implicitHeight + topPadding + bottomPadding
     horizontalPadding: Metrics.padding
     topPadding: 20
-    visible: ReviewController.scene !== null
+    visible: StoreReviewController.scene !== null
     width: 270
 
     background: Item {
@@ -43,7 +43,7 @@ T.Popup {
 
     onAboutToShow: focusedBefore = parent.Window.activeFocusItem
     onClosed: {
-        ReviewController.dismiss();
+        StoreReviewController.dismiss();
         if (!sheetPresented && focusedBefore !== null)
             focusedBefore.forceActiveFocus(Qt.PopupFocusReason);
     }
@@ -67,15 +67,15 @@ T.Popup {
             fits: true
             font: TextStyles.headline
             horizontalAlignment: Text.AlignHCenter
-            text: ReviewController.stars > 0 ? "Thank you!" : "Enjoying Kovamo?"
+            text: StoreReviewController.stars > 0 ? "Thank you!" : "Enjoying Kovamo?"
             width: parent.width
         }
         RatingRow {
             anchors.horizontalCenter: parent.horizontalCenter
             enabled: given === 0
-            given: ReviewController.stars
+            given: StoreReviewController.stars
 
-            onChosen: stars => ReviewController.rate(stars)
+            onChosen: stars => StoreReviewController.rate(stars)
         }
         Divider {
             width: parent.width
@@ -83,10 +83,10 @@ T.Popup {
         Pressable {
             id: notNow
             focus: true
-            text: ReviewController.stars > 0 ? "Done" : "Not Now"
+            text: StoreReviewController.stars > 0 ? "Done" : "Not Now"
             width: parent.width
 
-            onClicked: ReviewController.dismiss()
+            onClicked: StoreReviewController.dismiss()
 
             PlainText {
                 Accessible.ignored: true
@@ -98,7 +98,7 @@ T.Popup {
     }
     Binding {
         property: "sheetPresented"
-        target: ReviewController
+        target: StoreReviewController
         value: prompt.sheetPresented
     }
 }

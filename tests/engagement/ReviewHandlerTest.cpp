@@ -1,5 +1,5 @@
 #include "engagement/ReviewHandler.h"
-#include "platform/desktop/ReviewController.h"
+#include "platform/desktop/StoreReviewController.h"
 #include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
 #include "support/FastQueue.h"
@@ -22,7 +22,6 @@ const QString versionKey = QStringLiteral("lastVersionPromptedForReviewKey");
 class ReviewHandlerTest : public testing::Test {
   protected:
     ReviewHandlerTest() {
-        Bundle::main().setInfoDictionary({{kCFBundleVersionKey, QStringLiteral("17")}});
         m_controller.setSheetPresented(false);
         m_window.show();
         m_window.requestActivate();
@@ -31,7 +30,7 @@ class ReviewHandlerTest : public testing::Test {
 
     // Whether the platform shows its prompt when asked; it is sent away then.
     bool prompts() {
-        ReviewController::requestReview(m_window);
+        StoreReviewController::requestReview(m_window);
         const bool shown = m_controller.scene() == &m_window;
         m_controller.dismiss();
         return shown;
@@ -39,7 +38,7 @@ class ReviewHandlerTest : public testing::Test {
 
     FastQueue m_queue;
     QWindow m_window;
-    ReviewController& m_controller = ReviewController::shared();
+    StoreReviewController& m_controller = StoreReviewController::shared();
 };
 
 TEST_F(ReviewHandlerTest, AsksFromTheFourthStartUpUnlessThisBuildHasAsked) {
@@ -92,7 +91,7 @@ TEST_F(ReviewHandlerTest, ThePlatformPromptsThriceInAYearAndNeverOverASheet) {
         EXPECT_EQ(prompts(), shown) << time;
     }
     World::setTime("2026-08-01");
-    ReviewController::requestReview(m_window);
+    StoreReviewController::requestReview(m_window);
     m_controller.setSheetPresented(true);
     EXPECT_EQ(m_controller.scene(), nullptr) << "a sheet sends it away";
 }
@@ -112,7 +111,7 @@ TEST_F(ReviewHandlerTest, StarsLeadToTheSoftwareCentreOrToThanks) {
     const SoftwareCentre centre;
     const QDir folder(World::folder());
     qputenv("XDG_DATA_DIRS", folder.path().toUtf8());
-    ReviewController::requestReview(m_window);
+    StoreReviewController::requestReview(m_window);
     m_controller.rate(4);
     EXPECT_EQ(m_controller.stars(), 4);
     EXPECT_TRUE(centre.opened.isEmpty());
@@ -122,10 +121,10 @@ TEST_F(ReviewHandlerTest, StarsLeadToTheSoftwareCentreOrToThanks) {
     folder.mkpath(QStringLiteral("applications"));
     std::ofstream(folder.filePath(QStringLiteral("applications/mimeinfo.cache")).toStdString())
         << "[MIME Cache]\nx-scheme-handler/appstream=centre.desktop;\n";
-    ReviewController::requestReview(m_window);
+    StoreReviewController::requestReview(m_window);
     m_controller.rate(4);
     EXPECT_EQ(m_controller.scene(), nullptr);
-    EXPECT_EQ(centre.opened.toString(), "appstream:org.kovamo.Kovamo");
+    EXPECT_EQ(centre.opened.toString(), "appstream:org.example.App");
 }
 
 } // namespace

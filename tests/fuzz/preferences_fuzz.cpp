@@ -2,6 +2,7 @@
 // the next start, the others being as they were.
 
 #include "Fuzz.h"
+#include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QDir>
@@ -19,11 +20,12 @@ int LLVMFuzzerInitialize(int* argc, char*** argv) {
 }
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const QString folder = scratchPath(QStringLiteral("Kovamo"));
+    Bundle::main().setInfoDictionary({{kCFBundleNameKey, QStringLiteral("App")}});
+    const QString folder = scratchPath(QStringLiteral("App"));
     static const bool made =
         QDir().mkpath(folder) && qputenv("XDG_CONFIG_HOME", scratchPath(QString()).toLocal8Bit());
     check(made, "there is a folder");
-    writeFile(folder + u"/Kovamo.conf", {data, size});
+    writeFile(folder + u"/App.conf", {data, size});
     const QString count = QStringLiteral("appStartUpsCountKey");
     const QString version = QStringLiteral("lastVersionPromptedForReviewKey");
     const QString flag = QStringLiteral("onboardingFinished");

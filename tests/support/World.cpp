@@ -1,5 +1,6 @@
 #include "World.h"
 
+#include "platform/foundation/Bundle.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QDir>
@@ -12,6 +13,9 @@ namespace kovamo {
 
 World::World(const char* local, const char* zone, const char* locale) {
     s_folder = m_folder.path();
+    Bundle::main().setInfoDictionary({{kCFBundleNameKey, QStringLiteral("App")},
+                                      {kCFBundleIdentifierKey, QStringLiteral("org.example.App")},
+                                      {kCFBundleVersionKey, QStringLiteral("17")}});
     icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(zone));
     qputenv("TZ", zone);
     qputenv("LC_ALL", locale);

@@ -1,5 +1,7 @@
 #include "UserDefaults.h"
 
+#include "Bundle.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -17,6 +19,12 @@ std::unique_ptr<UserDefaults>& standardInstance() {
     return defaults;
 }
 
+QString preferencesPath() {
+    const QString name = Bundle::main().text(kCFBundleNameKey);
+    return QStringLiteral("%1/%2/%2.conf")
+        .arg(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), name);
+}
+
 // Preferences tell how somebody lives: their folder is made for its owner's eyes alone.
 void makeFolder(const QString& path) {
     const QFileInfo folder(path);
@@ -27,10 +35,7 @@ void makeFolder(const QString& path) {
 } // namespace
 
 UserDefaults::UserDefaults()
-    : m_settings(std::make_unique<QSettings>(
-          QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
-              QStringLiteral("/Kovamo/Kovamo.conf"),
-          QSettings::IniFormat)) {
+    : m_settings(std::make_unique<QSettings>(preferencesPath(), QSettings::IniFormat)) {
     // The sections of a file are parsed when first asked for; only then its faults show.
     (void)m_settings->allKeys();
     if (m_settings->status() == QSettings::NoError)

@@ -9,10 +9,10 @@ class QSettings;
 
 namespace kovamo {
 
-/// The user's preferences: `$XDG_CONFIG_HOME/Kovamo/Kovamo.conf`, keys at top level or under
-/// [General], in a folder for its owner alone. Preferences that cannot be parsed are as if absent,
-/// those that cannot be written go with the process; the first such trouble says so in one line
-/// on standard error.
+/// The user's preferences: `$XDG_CONFIG_HOME/name/name.conf` by the bundle's name, keys at top
+/// level or under [General], in a folder for its owner alone. Preferences that cannot be parsed are
+/// as if absent, those that cannot be written go with the process; the first such trouble says so
+/// in one line on standard error.
 class UserDefaults {
   public:
     UserDefaults();

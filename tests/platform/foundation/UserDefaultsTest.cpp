@@ -12,7 +12,7 @@ const QString key = QStringLiteral("appStartUpsCountKey");
 
 // The folder of the preferences' file.
 QString folder() {
-    return World::folder() + u"/xdg_config_home/Kovamo";
+    return World::folder() + u"/xdg_config_home/App";
 }
 
 TEST(UserDefaults, ReadsWhatOtherProgramsWroteAndDistrustsIt) {
@@ -29,7 +29,7 @@ TEST(UserDefaults, ReadsWhatOtherProgramsWroteAndDistrustsIt) {
     for (const auto& [content, number, lines] : cases) {
         const World world;
         QDir().mkpath(folder());
-        std::ofstream(folder().toStdString() + "/Kovamo.conf") << content;
+        std::ofstream(folder().toStdString() + "/App.conf") << content;
         testing::internal::CaptureStderr();
         UserDefaults defaults;
         EXPECT_EQ(defaults.integer(key), number) << content;

@@ -12,7 +12,7 @@ namespace kovamo {
 
 /// The platform's rating prompt: asked for by an app, shown when the platform sees fit. That is at
 /// most three times in 365 days, and never over a sheet. It never holds up the app.
-class ReviewController : public QObject {
+class StoreReviewController : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
@@ -25,8 +25,8 @@ class ReviewController : public QObject {
 
   public:
     /// The process's one controller.
-    static ReviewController& shared();
-    static ReviewController* create(QQmlEngine*, QJSEngine*);
+    static StoreReviewController& shared();
+    static StoreReviewController* create(QQmlEngine*, QJSEngine*);
 
     /// Asks for a review in the window `scene`. Whether a prompt shows is the platform's decision.
     static void requestReview(QWindow& scene) { shared().present(scene); }
@@ -47,7 +47,7 @@ class ReviewController : public QObject {
     void changed();
 
   private:
-    ReviewController() = default;
+    StoreReviewController() = default;
     void present(QWindow& scene);
 
     QPointer<QWindow> m_scene;

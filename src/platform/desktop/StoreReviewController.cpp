@@ -1,5 +1,6 @@
-#include "ReviewController.h"
+#include "StoreReviewController.h"
 
+#include "platform/foundation/Bundle.h"
 #include "platform/foundation/Clock.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/foundation/UserDefaults.h"
@@ -52,18 +53,18 @@ bool hasSoftwareCentre() {
 
 } // namespace
 
-ReviewController& ReviewController::shared() {
-    static ReviewController controller;
+StoreReviewController& StoreReviewController::shared() {
+    static StoreReviewController controller;
     return controller;
 }
 
-ReviewController* ReviewController::create(QQmlEngine*, QJSEngine*) {
-    ReviewController* controller = &shared();
+StoreReviewController* StoreReviewController::create(QQmlEngine*, QJSEngine*) {
+    StoreReviewController* controller = &shared();
     QJSEngine::setObjectOwnership(controller, QJSEngine::CppOwnership);
     return controller;
 }
 
-void ReviewController::present(QWindow& scene) {
+void StoreReviewController::present(QWindow& scene) {
     QStringList prompts = recentPrompts();
     if (m_scene || m_sheetPresented || prompts.size() >= promptsPerYear)
         return;
@@ -73,7 +74,7 @@ void ReviewController::present(QWindow& scene) {
     Q_EMIT changed();
 }
 
-void ReviewController::setSheetPresented(bool presented) {
+void StoreReviewController::setSheetPresented(bool presented) {
     if (presented == m_sheetPresented)
         return;
     m_sheetPresented = presented;
@@ -82,11 +83,11 @@ void ReviewController::setSheetPresented(bool presented) {
     Q_EMIT changed();
 }
 
-void ReviewController::rate(int stars) {
+void StoreReviewController::rate(int stars) {
     if (!m_scene || m_stars > 0)
         return;
     // Without slashes: a host would lose its capital letters.
-    const QUrl page(QStringLiteral("appstream:org.kovamo.Kovamo"));
+    const QUrl page(u"appstream:" + Bundle::main().text(kCFBundleIdentifierKey));
     if (hasSoftwareCentre() && QDesktopServices::openUrl(page))
         return dismiss();
     m_stars = stars;
@@ -94,7 +95,7 @@ void ReviewController::rate(int stars) {
     MainQueue::asyncAfter(thanksDuration, [this] { dismiss(); });
 }
 
-void ReviewController::dismiss() {
+void StoreReviewController::dismiss() {
     if (!m_scene)
         return;
     m_scene = nullptr;
