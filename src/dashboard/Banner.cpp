@@ -1,6 +1,6 @@
 #include "Banner.h"
 
-#include "platform/foundation/CheckedArithmetic.h"
+#include "ledger/Balance.h"
 #include "platform/foundation/Formatters.h"
 #include "platform/foundation/Locale.h"
 #include "platform/views/Shape.h"
@@ -33,28 +33,19 @@ QString withoutDigit(QString one) {
 
 Banner::Banner(ManagedObjectContext& context, TimeFrame selectedTimeFrame) : viewContext(&context) {
     gatherTransactions(selectedTimeFrame, context, transactions);
-    std::int64_t sum = 0;
-    for (const TransactionPresentation& presentation : std::as_const(transactions)) {
-        const std::int64_t amount = presentation.amount;
-        sum = presentation.isPositive ? checkedAdd(sum, amount) : checkedSubtract(sum, amount);
-    }
-    judge(sum);
+    judge(netBalance(transactions));
 }
 
 void Banner::judge(std::int64_t sum) {
+    kovamo = magnitude(sum);
+    infoText = verdictText(sum);
     if (sum > 0) {
-        kovamo = sum;
-        infoText = QStringLiteral("Your Kovamo is positive 👍");
         kovamoText = QStringLiteral("+ ");
         currentGradient = greenGardient;
     } else if (sum < 0) {
-        kovamo = checkedSubtract(std::int64_t{0}, sum);
-        infoText = QStringLiteral("Your Kovamo is negative 💔");
         kovamoText = QStringLiteral("- ");
         currentGradient = redGradient;
     } else {
-        kovamo = 0;
-        infoText = QStringLiteral("Your Kovamo is neutral 🧿");
         kovamoText = QStringLiteral("   0");
         currentGradient = blueGradient;
     }
