@@ -1,5 +1,7 @@
 #include "Options.h"
 
+#include "command/CommandLine.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
@@ -72,7 +74,8 @@ QString helpText() {
     char* arguments[] = {name.data()};
     int count = 1;
     const QCoreApplication application(count, arguments);
-    return CommandLine().parser.helpText().trimmed();
+    return CommandLine().parser.helpText() + u"\nWithout a display:\n" + commandsText() +
+           u"\nkovamo COMMAND --help tells more of each.";
 }
 
 } // namespace kovamo

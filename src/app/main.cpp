@@ -5,6 +5,7 @@
 #include "RootView.h"
 #include "SampleData.h"
 #include "SoleInstance.h"
+#include "command/CommandLine.h"
 #include "platform/desktop/DesktopSettings.h"
 #include "platform/foundation/UserDefaults.h"
 
@@ -107,7 +108,10 @@ int show(const Options& options) {
 
 int main(int argc, char** argv) {
     KovamoApp::describe();
-    const Options options = parsedOptions(argumentsOf(argc, argv));
+    const QStringList arguments = argumentsOf(argc, argv);
+    if (const std::optional<int> status = runCommand(arguments))
+        return *status;
+    const Options options = parsedOptions(arguments);
     if (const std::optional<int> status = answered(options))
         return *status;
     std::optional<QTemporaryDir> scratch;

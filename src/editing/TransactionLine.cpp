@@ -5,14 +5,6 @@
 
 namespace kovamo {
 
-namespace {
-
-QString withDirection(bool isPositive, const QString& money) {
-    return QLatin1String(isPositive ? "+ " : "- ") + money;
-}
-
-} // namespace
-
 QString formattedAmount(std::int32_t amount) {
     return currencyText(amount);
 }

@@ -60,6 +60,10 @@ QString currencyText(std::int64_t amount) {
     return wholeNumberText(amount, UNUM_CURRENCY);
 }
 
+QString withDirection(bool isPositive, const QString& money) {
+    return QLatin1String(isPositive ? "+ " : "- ") + money;
+}
+
 QString numberText(std::int64_t number) {
     return wholeNumberText(number, UNUM_DECIMAL);
 }

@@ -11,6 +11,9 @@ namespace kovamo {
 /// no fraction. A formatter that yields no text is a fatal error.
 [[nodiscard]] QString currencyText(std::int64_t amount);
 
+/// A money text with its direction: "+ " or "- " before it.
+[[nodiscard]] QString withDirection(bool isPositive, const QString& money);
+
 /// A whole number in the digits and grouping of the user's locale for money, without a currency.
 [[nodiscard]] QString numberText(std::int64_t number);
 

@@ -53,11 +53,14 @@ int put(SQLite::Statement& statement, const ManagedObject& object) {
 
 } // namespace
 
-Store::Store(const QString& path, const EntityDescription& entity)
+Store::Store(const QString& path, const EntityDescription& entity, Access access)
     : m_path(path), m_entity(entity), m_table(entity) {
+    if (access == Access::read && !QFileInfo(path).isFile())
+        fail(QStringLiteral("There is no store"), SQLITE_CANTOPEN, path);
     if (isEmptied(path))
         fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path);
-    makeStoreFile(path);
+    if (access == Access::readAndWrite)
+        makeStoreFile(path);
     guarded(path, [&] {
         m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
                            busyTimeoutMilliseconds);
@@ -67,10 +70,13 @@ Store::Store(const QString& path, const EntityDescription& entity)
         // What is refused or only looked at must not be written to when it is closed again.
         checkpointOnClose(false);
         refuseNewer();
-        refuseDamaged();
+        refuseDamaged(access);
         // Until the log is in use, a journal that is gone must be gone from the disk, too.
         m_database->exec("PRAGMA synchronous = EXTRA");
-        createSchema();
+        if (access == Access::readAndWrite)
+            createSchema();
+        else if (!isMade())
+            fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, path);
         // Fails where the table lacks a column, and so before anything is written.
         (void)m_statements->use(m_table.selection);
         (void)changedElsewhere();
@@ -110,18 +116,20 @@ void Store::refuseNewer() const {
              m_path);
 }
 
-void Store::refuseDamaged() const {
+void Store::refuseDamaged(Access access) const {
     if (isSealed(*m_database, m_path) || QFileInfo(m_path).size() == 0)
         return;
     if (const QString fault = faultOf(*m_database); !fault.isEmpty())
         fail(fault, SQLITE_CORRUPT, m_path);
-    seal(*m_database, m_path);
+    if (access == Access::readAndWrite)
+        seal(*m_database, m_path);
+}
+
+bool Store::isMade() const {
+    return integer(QStringLiteral("PRAGMA user_version")) == schemaVersion;
 }
 
 void Store::createSchema() {
-    const auto isMade = [&] {
-        return integer(QStringLiteral("PRAGMA user_version")) == schemaVersion;
-    };
     if (isMade())
         return;
     SQLite::Transaction transaction(*m_database, SQLite::TransactionBehavior::IMMEDIATE);

@@ -18,10 +18,15 @@ struct ObjectChanges;
 /// One SQLite file with one table: the entity's. All failures are thrown as StoreError.
 class Store {
   public:
+    /// What a store is opened for: only to read, nothing is made, and nothing changed beside it.
+    enum class Access { read, readAndWrite };
+
     /// Opens the store at `path`, or makes it, readable and writable by its owner only. A file
     /// that is no store, is damaged or comes from a newer version is refused. Until the first
-    /// write, any file is left byte for byte as it is.
-    Store(const QString& path, const EntityDescription& entity);
+    /// write, any file is left byte for byte as it is. Only to read, a file that is not there is
+    /// refused, too, and write() is not allowed.
+    Store(const QString& path, const EntityDescription& entity,
+          Access access = Access::readAndWrite);
     ~Store();
     Q_DISABLE_COPY_MOVE(Store)
 
@@ -60,7 +65,8 @@ class Store {
   private:
     void checkpointOnClose(bool checkpoints);
     void refuseNewer() const;
-    void refuseDamaged() const;
+    void refuseDamaged(Access access) const;
+    [[nodiscard]] bool isMade() const;
     void createSchema();
     bool beginCopy();
     void keepCopy();

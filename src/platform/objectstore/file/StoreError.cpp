@@ -4,6 +4,11 @@
 
 namespace kovamo {
 
+QString StoreError::path() const {
+    const auto found = m_userInfo.find(QStringLiteral("path"));
+    return found == m_userInfo.end() ? QString() : found->second;
+}
+
 QString StoreError::userInfoDescription() const {
     QStringList entries;
     for (const auto& [key, value] : m_userInfo)

@@ -15,6 +15,9 @@ class StoreError : public std::exception {
     /// What went wrong, in the store's words.
     [[nodiscard]] const QString& description() const { return m_description; }
 
+    /// The file that it is about; empty where it names none.
+    [[nodiscard]] QString path() const;
+
     /// The details by name, as text: ["key": "value", …].
     [[nodiscard]] QString userInfoDescription() const;
 
