@@ -13,7 +13,7 @@ namespace kovamo {
 namespace {
 
 const std::vector<Command>& commands() {
-    static const std::vector<Command> all{balanceCommand(), listCommand()};
+    static const std::vector<Command> all{balanceCommand(), listCommand(), checkCommand()};
     return all;
 }
 

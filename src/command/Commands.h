@@ -5,6 +5,7 @@
 namespace kovamo {
 
 [[nodiscard]] Command balanceCommand();
+[[nodiscard]] Command checkCommand();
 [[nodiscard]] Command listCommand();
 
 } // namespace kovamo

@@ -26,6 +26,14 @@ void print(const QString& text) {
         failToWrite();
 }
 
+QString inOneLine(QString text) {
+    for (QChar& character : text)
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator)
+            character = u' ';
+    return text;
+}
+
 void finishOutput() {
     if (std::fflush(stdout) != 0)
         failToWrite();

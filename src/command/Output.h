@@ -11,4 +11,7 @@ void print(const QString& text);
 /// Writes what is still held back; throws as print() does.
 void finishOutput();
 
+/// A user's text as a part of a line: line breaks and other control characters become blanks.
+[[nodiscard]] QString inOneLine(QString text);
+
 } // namespace kovamo

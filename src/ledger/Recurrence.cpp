@@ -12,17 +12,11 @@ std::optional<TransactionPresentation> monthly(const Transaction& transaction,
                                                std::span<const MonthSlot> slots) {
     const Instant start = required(transaction.id(), transaction.startDate(), "startDate");
     const Instant end = required(transaction.id(), transaction.endDate(), "endDate");
-    const auto count = std::ranges::count_if(slots, [&](const MonthSlot& slot) {
-        const bool startedBefore = start <= slot.slotStart;
-        const bool endsInside = end >= slot.slotStart && end <= slot.slotEnd;
-        const bool spans = startedBefore && end >= slot.slotEnd;
-        const bool startsInside = start >= slot.slotStart && start <= slot.slotEnd;
-        return (startedBefore && endsInside) || spans || startsInside;
-    });
+    const int count = activeMonths(start, end, slots);
     if (count == 0)
         return std::nullopt;
     TransactionPresentation presentation(transaction);
-    presentation.amount = checkedMultiply(presentation.amount, static_cast<std::int32_t>(count));
+    presentation.amount = checkedMultiply(presentation.amount, std::int32_t{count});
     return presentation;
 }
 
@@ -39,6 +33,17 @@ yearly(const Transaction& transaction, std::span<const MonthSlot> slots, const C
 }
 
 } // namespace
+
+int activeMonths(Instant start, Instant end, std::span<const MonthSlot> slots) {
+    const auto count = std::ranges::count_if(slots, [&](const MonthSlot& slot) {
+        const bool startedBefore = start <= slot.slotStart;
+        const bool endsInside = end >= slot.slotStart && end <= slot.slotEnd;
+        const bool spans = startedBefore && end >= slot.slotEnd;
+        const bool startsInside = start >= slot.slotStart && start <= slot.slotEnd;
+        return (startedBefore && endsInside) || spans || startsInside;
+    });
+    return static_cast<int>(count);
+}
 
 std::optional<TransactionPresentation> expanded(const Transaction& transaction,
                                                 std::span<const MonthSlot> slots,

@@ -10,6 +10,9 @@
 
 namespace kovamo {
 
+/// How many of the months `slots` a monthly recurrence from `start` to `end` is active in.
+[[nodiscard]] int activeMonths(Instant start, Instant end, std::span<const MonthSlot> slots);
+
 /// What a recurring record contributes to the months `slots`, if anything: a "monthly" one its
 /// copy with the amount times the months in which it is active, a "yearly" one its plain copy when
 /// the month of its start, whatever the year, is `startMonth` of a slot and it has not ended by

@@ -9,6 +9,20 @@ namespace kovamo {
 /// A stored money movement. The setters need a save of the context to last.
 class Transaction : public ManagedObject {
   public:
+    /// The order of the entity's attributes, and so of values().
+    enum Attribute : std::size_t {
+        Amount,
+        Emoji,
+        EndDate,
+        Id,
+        IsPositive,
+        IsRecurring,
+        RecurringType,
+        StartDate,
+        Timestamp,
+        Title,
+    };
+
     Transaction(ManagedObjectContext& context, ObjectID objectID)
         : ManagedObject(context, objectID) {}
 
@@ -59,21 +73,6 @@ class Transaction : public ManagedObject {
     /// The user's short description.
     [[nodiscard]] std::optional<QString> title() const { return optional<QString>(Title); }
     void setTitle(const std::optional<QString>& title) { setOptional(Title, title); }
-
-  private:
-    // The order of the entity's attributes.
-    enum Attribute : std::size_t {
-        Amount,
-        Emoji,
-        EndDate,
-        Id,
-        IsPositive,
-        IsRecurring,
-        RecurringType,
-        StartDate,
-        Timestamp,
-        Title,
-    };
 };
 
 /// `value`, which the attribute `attribute` of the record `id` holds; an absent one is a fatal

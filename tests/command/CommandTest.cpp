@@ -67,5 +67,37 @@ TEST(Command, AnswersEachCall) {
     EXPECT_EQ(filesBeside(path), before) << "they only read";
 }
 
+TEST(Check, NamesEachRecordThatAScreenCannotShow) {
+    const Book book({{100}, {100, "2001-01-05", "yearly"}});
+    EXPECT_EQ(Ended(QStringLiteral("check")).output, "Nothing is wrong with 2 records.\n");
+    const char* id = "0b5a2a4e-7a3a-4c1e-9f52-0d8f6f0c9a11";
+    const std::pair<const char*, const char*> faults[] = {
+        {"title = NULL", "it has no title"},
+        {"emoji = NULL, endDate = NULL", "it has no emoji; it has no endDate"},
+        {"startDate = 'x'", "its startDate has a wrong type"},
+        {"amount = -5", "its amount is negative: -5"},
+        {"amount = 9e9", "its amount has a wrong type"},
+        {"isRecurring = 1, recurringType = 'Monthly'", "it recurs neither monthly nor yearly"},
+        {"isRecurring = 1, amount = 200000000", "too large for 12 months: 2400000000"},
+        {"title = 'a' || char(10) || 'b', emoji = NULL", "\"a b\": it has no emoji"},
+        {"pk = 1", "another record has its id"},
+    };
+    book.elsewhere("CREATE TABLE loose AS SELECT * FROM \"Transaction\"; "
+                   "DROP TABLE \"Transaction\"; ALTER TABLE loose RENAME TO \"Transaction\"");
+    for (const auto& [change, words] : faults) {
+        book.elsewhere("DELETE FROM \"Transaction\"");
+        for (const bool isSecond : {false, true})
+            if (!isSecond || QByteArray(change) == "pk = 1")
+                book.elsewhere("INSERT INTO \"Transaction\" VALUES (2, 1, 'e', 4102444800000, '" +
+                               std::string(id) + "', 1, 0, 'monthly', 0, 0, 'title')");
+        book.elsewhere("UPDATE \"Transaction\" SET " + std::string(change));
+        const Ended check(QStringLiteral("check"));
+        EXPECT_EQ(check.exitCode(), 1) << change;
+        EXPECT_TRUE(check.output.startsWith(id)) << change << check.output.data();
+        EXPECT_TRUE(check.output.contains(words)) << change << check.output.data();
+        EXPECT_EQ(check.errors, "") << change;
+    }
+}
+
 } // namespace
 } // namespace kovamo

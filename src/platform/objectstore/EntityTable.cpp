@@ -30,7 +30,7 @@ QString columnDefinition(const AttributeDescription& attribute) {
 } // namespace
 
 EntityTable::EntityTable(const EntityDescription& entity) : name(quoted(entity.name)) {
-    QStringList columns, columnDefinitions{QStringLiteral("pk INTEGER PRIMARY KEY")};
+    QStringList columnDefinitions{QStringLiteral("pk INTEGER PRIMARY KEY")};
     for (const AttributeDescription& attribute : entity.attributes) {
         columns.append(quoted(attribute.name));
         columnDefinitions.append(columnDefinition(attribute));

@@ -13,6 +13,8 @@ struct EntityTable {
 
     /// Its quoted name.
     QString name;
+    /// The quoted names of the attributes' columns.
+    QStringList columns;
     /// The statements that make it and its indexes.
     QStringList definitions;
     /// The columns of the record with an identity.

@@ -1,0 +1,86 @@
+#include "StoreInspection.h"
+
+#include "StoredValue.h"
+#include "platform/objectstore/file/Soundness.h"
+#include "platform/objectstore/file/StoreError.h"
+
+#include <QFileInfo>
+#include <sqlite3.h>
+
+namespace kovamo {
+
+namespace {
+
+constexpr int busyTimeoutMilliseconds = 5000;
+
+template<typename Work>
+auto guarded(const QString& path, Work work) {
+    try {
+        return work();
+    } catch (const SQLite::Exception& error) {
+        fail(QString::fromUtf8(error.what()), error.getExtendedErrorCode(), path);
+    }
+}
+
+void checkpointOnClose(SQLite::Database& database, bool checkpoints) {
+    sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, checkpoints ? 0 : 1,
+                      nullptr);
+}
+
+} // namespace
+
+StoreInspection::StoreInspection(const QString& path, const EntityDescription& entity)
+    : m_path(path), m_entity(entity), m_table(entity) {
+    if (!QFileInfo(path).isFile())
+        fail(QStringLiteral("There is no store"), SQLITE_CANTOPEN, path);
+    if (QFileInfo(path).size() == 0)
+        fail(QStringLiteral("The store is empty"), SQLITE_NOTADB, path);
+    guarded(path, [&] {
+        m_database.emplace(path.toStdString(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
+                           busyTimeoutMilliseconds);
+        checkpointOnClose(*m_database, false);
+        if (!m_database->tableExists(m_entity.name.toStdString()))
+            fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, path);
+    });
+}
+
+StoreInspection::~StoreInspection() {
+    // Without a log, only its empty files are taken away.
+    if (m_database)
+        checkpointOnClose(*m_database, !hasLog(m_path));
+}
+
+QStringList StoreInspection::fileFaults() {
+    return guarded(m_path, [&] {
+        SQLite::Statement check(*m_database, "PRAGMA integrity_check(100)");
+        QStringList faults;
+        while (check.executeStep())
+            faults += QString::fromStdString(check.getColumn(0).getString()).split(u'\n');
+        return faults == QStringList(QStringLiteral("ok")) ? QStringList() : faults;
+    });
+}
+
+std::int64_t StoreInspection::count() {
+    return guarded(m_path, [&] {
+        return m_database->execAndGet("SELECT count(*) FROM " + m_table.name.toStdString())
+            .getInt64();
+    });
+}
+
+void StoreInspection::forEach(const std::function<void(ObjectID, Record)>& visit) {
+    guarded(m_path, [&] {
+        SQLite::Statement rows(*m_database, "SELECT " + m_table.columns.join(u',').toStdString() +
+                                                ",pk FROM " + m_table.name.toStdString() +
+                                                " ORDER BY pk");
+        const auto count = static_cast<int>(m_entity.attributes.size());
+        std::vector<std::optional<Value>> values(m_entity.attributes.size());
+        while (rows.executeStep()) {
+            for (int i = 0; i < count; ++i)
+                values[static_cast<std::size_t>(i)] =
+                    valueOf(rows.getColumn(i), m_entity.attributes[static_cast<std::size_t>(i)]);
+            visit(rows.getColumn(count).getInt64(), values);
+        }
+    });
+}
+
+} // namespace kovamo
