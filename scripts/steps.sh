@@ -21,6 +21,7 @@ run_packages=(
 build_packages=(
     cmake
     g++
+    libcsv-dev
     libicu-dev
     libsqlite3-dev
     libsqlitecpp-dev

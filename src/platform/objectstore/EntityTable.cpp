@@ -45,6 +45,7 @@ EntityTable::EntityTable(const EntityDescription& entity) : name(quoted(entity.n
                            sortKeys(index) + u')');
     }
     selection = u"SELECT " + columns.join(u',') + u" FROM " + name + u" WHERE pk = ?";
+    everything = u"SELECT " + columns.join(u',') + u",pk FROM " + name + u" ORDER BY pk";
     insertion = u"INSERT INTO " + name + u" (" + columns.join(u',') + u",pk) VALUES (" +
                 QStringLiteral("?,").repeated(columns.size()) + u"?)";
     update =

@@ -19,6 +19,8 @@ struct EntityTable {
     QStringList definitions;
     /// The columns of the record with an identity.
     QString selection;
+    /// The columns and the identity of every record, by identity.
+    QString everything;
     /// Takes the columns' values, then the identity.
     QString insertion;
     /// Takes the columns' values, then the identity.

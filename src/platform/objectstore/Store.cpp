@@ -1,10 +1,10 @@
 #include "Store.h"
 
+#include "Guarded.h"
 #include "ManagedObjectContext.h"
 #include "StoredValue.h"
 #include "platform/foundation/RadixSort.h"
 #include "platform/objectstore/file/Soundness.h"
-#include "platform/objectstore/file/StoreError.h"
 #include "platform/objectstore/file/StoreFile.h"
 
 #include <QDeadlineTimer>
@@ -21,16 +21,6 @@ namespace {
 
 constexpr int schemaVersion = 1;
 constexpr int busyTimeoutMilliseconds = 5000;
-
-/// Runs `work` and throws what SQLite throws as a StoreError.
-template<typename Work>
-auto guarded(const QString& path, Work work) {
-    try {
-        return work();
-    } catch (const SQLite::Exception& error) {
-        fail(QString::fromUtf8(error.what()), error.getExtendedErrorCode(), path);
-    }
-}
 
 std::string utf8(const QString& text) {
     return text.toStdString();
@@ -195,25 +185,43 @@ std::size_t Store::count(const FetchRequest& request) const {
     });
 }
 
+void Store::readValues(SQLite::Statement& row, ObjectID id, std::vector<Value>& values) {
+    values.clear();
+    values.reserve(m_entity.attributes.size());
+    int index = 0;
+    for (const AttributeDescription& attribute : m_entity.attributes) {
+        auto value = valueOf(row.getColumn(index++), attribute);
+        if (!value)
+            fail(QStringLiteral("The record %1 has a wrong %2").arg(id).arg(attribute.name),
+                 SQLITE_MISMATCH, m_path);
+        if (auto* text = std::get_if<QString>(&*value))
+            *text = shared(*text);
+        values.push_back(*std::move(value));
+    }
+}
+
 std::vector<Value> Store::read(ObjectID id) {
     return guarded(m_path, [&] {
         const auto row = m_statements->use(m_table.selection);
         row->bind(1, id);
         std::vector<Value> values;
-        if (row->executeStep()) {
-            values.reserve(m_entity.attributes.size());
-            int index = 0;
-            for (const AttributeDescription& attribute : m_entity.attributes) {
-                auto value = valueOf(row->getColumn(index++), attribute);
-                if (!value)
-                    fail(QStringLiteral("The record %1 has a wrong %2").arg(id).arg(attribute.name),
-                         SQLITE_MISMATCH, m_path);
-                if (auto* text = std::get_if<QString>(&*value))
-                    *text = shared(*text);
-                values.push_back(*std::move(value));
-            }
-        }
+        if (row->executeStep())
+            readValues(*row, id, values);
         return values;
+    });
+}
+
+void Store::forEach(const std::function<bool(ObjectID, std::span<const Value>)>& visit) {
+    guarded(m_path, [&] {
+        const auto row = m_statements->use(m_table.everything);
+        const int idColumn = static_cast<int>(m_entity.attributes.size());
+        std::vector<Value> values;
+        while (row->executeStep()) {
+            const ObjectID id = row->getColumn(idColumn).getInt64();
+            readValues(*row, id, values);
+            if (!visit(id, values))
+                return;
+        }
     });
 }
 

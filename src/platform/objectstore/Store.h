@@ -9,7 +9,9 @@
 #include <QSet>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
+#include <functional>
 #include <optional>
+#include <span>
 
 namespace kovamo {
 
@@ -39,6 +41,10 @@ class Store {
     /// The values of a record; empty when there is none.
     [[nodiscard]] std::vector<Value> read(ObjectID id);
 
+    /// Visits all records as they are in one state of the file, in the order of their identities,
+    /// for as long as `visit` returns true. It gets the identity and the values.
+    void forEach(const std::function<bool(ObjectID, std::span<const Value>)>& visit);
+
     /// What is read until the transaction goes is of one state of the file, which is locked and
     /// looked at once and not for each record. Requires that nothing is written meanwhile and that
     /// no other such transaction lasts.
@@ -63,6 +69,9 @@ class Store {
     [[nodiscard]] bool changedElsewhere();
 
   private:
+    friend class BulkWrite;
+
+    void readValues(SQLite::Statement& row, ObjectID id, std::vector<Value>& values);
     void checkpointOnClose(bool checkpoints);
     void refuseNewer() const;
     void refuseDamaged(Access access) const;

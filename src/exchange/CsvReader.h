@@ -1,0 +1,45 @@
+#pragma once
+
+#include "LineReader.h"
+#include "Row.h"
+
+#include <csv.h>
+
+namespace kovamo {
+
+/// The records of a CSV file after RFC 4180, read as a stream.
+class CsvReader {
+  public:
+    /// A lenient reader takes quotes amid a field as they are. Requires: `lines` outlives the
+    /// reader.
+    CsvReader(LineReader& lines, char separator, bool isLenient = false);
+    ~CsvReader();
+    Q_DISABLE_COPY_MOVE(CsvReader)
+
+    /// Reads the next record that is no empty line; returns whether there is one. Throws a Fault,
+    /// and goes on with the next line at the next call.
+    [[nodiscard]] bool next();
+
+    /// The fields of the record. Nothing between two separators is an absent one.
+    [[nodiscard]] std::span<const Cell> fields() const { return {m_fields.data(), m_count}; }
+
+    /// The number of the line on which the record begins, from 1.
+    [[nodiscard]] qint64 line() const { return m_line; }
+
+  private:
+    void begin();
+    void feed(std::string_view line);
+    [[noreturn]] void failParsing(const QString& what);
+    void endField(const void* text, std::size_t size);
+
+    LineReader& m_lines;
+    char m_separator;
+    bool m_isLenient;
+    csv_parser m_parser{};
+    std::vector<Cell> m_fields;
+    std::size_t m_count = 0;
+    bool m_isWhole = false;
+    qint64 m_line = 0;
+};
+
+} // namespace kovamo

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QByteArray>
+#include <QIODevice>
+#include <string_view>
+
+namespace kovamo {
+
+/// The longest line or record of a file, in bytes: more is no file of records.
+inline constexpr qsizetype longestRecord = 64 * 1024 * 1024;
+
+/// A device's lines, one after the other, in memory of the longest one's size. CR, LF and both
+/// together end a line. A mark of the byte order at the start of UTF-8 is passed over.
+class LineReader {
+  public:
+    /// Requires: `device` is open for reading and outlives the reader.
+    explicit LineReader(QIODevice& device) : m_device(device) {}
+
+    /// The next line with its end, until the next call; nothing at the end of the device. Throws a
+    /// Fault for a line longer than longestRecord, and goes on behind its start at the next call.
+    [[nodiscard]] std::string_view next();
+
+    /// The number of the line that next() returned, from 1.
+    [[nodiscard]] qint64 number() const { return m_number; }
+
+    /// How many bytes have been read.
+    [[nodiscard]] qint64 position() const { return m_position; }
+
+  private:
+    bool fill();
+
+    QIODevice& m_device;
+    QByteArray m_buffer;
+    qsizetype m_start = 0;
+    qsizetype m_end = 0;
+    qint64 m_number = 0;
+    qint64 m_position = 0;
+};
+
+} // namespace kovamo

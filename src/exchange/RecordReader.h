@@ -1,0 +1,33 @@
+#pragma once
+
+#include "Row.h"
+
+#include <QIODevice>
+#include <memory>
+
+namespace kovamo {
+
+struct ImportOptions;
+
+/// The records of a file, one after the other, as values of a transaction.
+class RecordReader {
+  public:
+    virtual ~RecordReader() = default;
+
+    /// Reads the next record; returns whether there is one. Throws a Fault for a record that is
+    /// none, and goes on behind it at the next call.
+    [[nodiscard]] virtual bool next(std::vector<Value>& values) = 0;
+
+    /// The number of the line on which the record begins, from 1.
+    [[nodiscard]] virtual qint64 line() const = 0;
+
+    /// How many bytes of the file have been read.
+    [[nodiscard]] virtual qint64 position() const = 0;
+};
+
+/// A reader of `device`. Throws a Fault where that is no file of records at all. Requires that
+/// `device` outlives the reader.
+[[nodiscard]] std::unique_ptr<RecordReader> makeRecordReader(QIODevice& device,
+                                                             const ImportOptions& options);
+
+} // namespace kovamo

@@ -1,0 +1,41 @@
+#include "BulkWrite.h"
+
+#include "Guarded.h"
+#include "StoredValue.h"
+
+namespace kovamo {
+
+BulkWrite::BulkWrite(Store& store) : m_store(store) {
+    store.prepareToWrite();
+    guarded(m_store.m_path, [&] {
+        m_inserting = store.m_statements->use(store.m_table.insertion);
+        m_updating = store.m_statements->use(store.m_table.update);
+        m_transaction.emplace(*store.m_database, SQLite::TransactionBehavior::IMMEDIATE);
+        m_nextID = store.unusedID();
+    });
+}
+
+void BulkWrite::put(SQLite::Statement& statement, ObjectID id, std::span<const Value> values) {
+    guarded(m_store.m_path, [&] {
+        int index = 0;
+        for (const Value& value : values)
+            bind(statement, ++index, value);
+        statement.bind(++index, id);
+        statement.exec();
+        statement.reset();
+    });
+}
+
+void BulkWrite::insert(std::span<const Value> values) {
+    put(*m_inserting, m_nextID++, values);
+}
+
+void BulkWrite::update(ObjectID id, std::span<const Value> values) {
+    put(*m_updating, id, values);
+}
+
+void BulkWrite::commit() {
+    guarded(m_store.m_path, [&] { m_transaction->commit(); });
+}
+
+} // namespace kovamo
