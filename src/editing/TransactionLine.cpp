@@ -13,6 +13,14 @@ QString signedAmount(bool isPositive, std::int32_t amount) {
     return withDirection(isPositive, formattedAmount(amount));
 }
 
+QString deletionSentence(const TransactionPresentation& deleted) {
+    const QString title = deleted.title.value_or(QString()).simplified();
+    if (deleted.isRecurring != true || !deleted.recurringType || !deleted.startDate)
+        return title + u" deleted";
+    return title + u", " + *deleted.recurringType + u" since " +
+           localizedDateText(*deleted.startDate, QStringLiteral("y")) + u", deleted";
+}
+
 TransactionLine::TransactionLine(const TransactionPresentation& transaction)
     : emoji(required(transaction.id, transaction.emoji, "emoji")),
       title(required(transaction.id, transaction.title, "title")),

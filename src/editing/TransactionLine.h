@@ -13,6 +13,10 @@ namespace kovamo {
 /// An amount with its direction: "+ " or "- " and the money text.
 [[nodiscard]] QString signedAmount(bool isPositive, std::int32_t amount);
 
+/// What is said once a transaction is deleted: "Rent deleted", and of a recurring one since when it
+/// was: "Salary, monthly since 2019, deleted".
+[[nodiscard]] QString deletionSentence(const TransactionPresentation& deleted);
+
 /// What a row of a list shows of a transaction.
 struct TransactionLine {
     Q_GADGET

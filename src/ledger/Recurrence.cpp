@@ -56,4 +56,12 @@ std::optional<TransactionPresentation> expanded(const Transaction& transaction,
     return std::nullopt;
 }
 
+std::int32_t timesCounted(const TransactionPresentation& transaction,
+                          std::span<const MonthSlot> slots) {
+    if (transaction.isRecurring != true || transaction.recurringType != u"monthly")
+        return 1;
+    return activeMonths(required(transaction.id, transaction.startDate, "startDate"),
+                        required(transaction.id, transaction.endDate, "endDate"), slots);
+}
+
 } // namespace kovamo

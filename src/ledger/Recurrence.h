@@ -21,4 +21,10 @@ namespace kovamo {
                                                               std::span<const MonthSlot> slots,
                                                               const Calendar& calendar);
 
+/// How many times a transaction is counted in the months `slots`: a "monthly" recurrence once for
+/// each month in which it is active, anything else once. An expanded presentation's amount is its
+/// record's, times this. Requires: the recurrence has its dates.
+[[nodiscard]] std::int32_t timesCounted(const TransactionPresentation& transaction,
+                                        std::span<const MonthSlot> slots);
+
 } // namespace kovamo

@@ -3,6 +3,7 @@
 #include "dashboard/Banner.h"
 #include "dashboard/TransactionChart.h"
 #include "editing/TransactionsView.h"
+#include "ledger/Recurrence.h"
 #include "support/Book.h"
 #include "support/WallClock.h"
 
@@ -86,6 +87,10 @@ class RandomLedger {
         auto records = context.fetch<Transaction>(transactions());
         for (const TimeFrame timeFrame : {0, 1, 2, 3})
             compare(gathered(records, timeFrame), timeFrame, context);
+        for (const auto& row : gathered(records, 3))
+            EXPECT_EQ(row.amount,
+                      timesCounted(row, monthSlots(3)) *
+                          (*std::ranges::find(records, row.id, &Transaction::id))->amount());
         const TransactionsView screen(context);
         std::ranges::stable_sort(records, std::ranges::greater(), &Transaction::amount);
         ASSERT_EQ(screen.rowCount(), std::ssize(records));
