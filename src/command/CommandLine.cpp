@@ -13,7 +13,8 @@ namespace kovamo {
 namespace {
 
 const std::vector<Command>& commands() {
-    static const std::vector<Command> all{balanceCommand(), listCommand(), checkCommand()};
+    static const std::vector<Command> all{balanceCommand(), listCommand(), checkCommand(),
+                                          copiesCommand(), restoreCommand()};
     return all;
 }
 

@@ -6,6 +6,8 @@ namespace kovamo {
 
 [[nodiscard]] Command balanceCommand();
 [[nodiscard]] Command checkCommand();
+[[nodiscard]] Command copiesCommand();
 [[nodiscard]] Command listCommand();
+[[nodiscard]] Command restoreCommand();
 
 } // namespace kovamo

@@ -99,5 +99,52 @@ TEST(Check, NamesEachRecordThatAScreenCannotShow) {
     }
 }
 
+TEST(Restore, PutsACopyInTheStoresPlaceAndKeepsWhatWasThere) {
+    const QString path = Book({{100}}).container.storePath();
+    const QString folder = QFileInfo(path).path();
+    const QString copy = folder + u"/Kovamo-2001-02-03.sqlite";
+    QFile::copy(path, copy);
+    Book(std::initializer_list<Line>{{200}, {300}});
+    // What another process has not yet brought from its log into the file is the store's, too.
+    Book open({{400}});
+    EXPECT_TRUE(Ended(QStringLiteral("copies")).output.contains("\n2001-02-03  "));
+
+    for (const char* wrong : {"2001-02-04", "Kovamo.sqlite", "/dev/null", "/etc/hostname", "."}) {
+        const auto before = filesBeside(path);
+        const Ended refused(u"restore " + QString::fromUtf8(wrong));
+        EXPECT_EQ(refused.exitCode(), 1) << wrong;
+        EXPECT_NE(refused.errors, "") << wrong;
+        EXPECT_EQ(filesBeside(path), before) << wrong;
+    }
+    const Ended restore(QStringLiteral("restore 2001-02-03"));
+    EXPECT_EQ(restore.exitCode(), 0) << restore.errors.data();
+    EXPECT_TRUE(restore.output.contains("The copy: 1 record\nThe store was: 4 records\n"));
+    EXPECT_EQ(Book().amounts(), std::vector<std::int32_t>{100});
+    EXPECT_EQ(Ended(QStringLiteral("check --store ") + copy).exitCode(), 0);
+
+    const QStringList aside = QDir(folder).entryList({QStringLiteral("*-set-aside-*")});
+    ASSERT_EQ(aside.size(), 1) << aside.join(u' ').toStdString();
+    const QString name = aside[0].section(u'.', 0, 0).mid(7);
+    EXPECT_TRUE(Ended(QStringLiteral("copies")).output.contains(name.toUtf8()));
+    EXPECT_EQ(Ended(u"restore " + name).exitCode(), 0);
+    EXPECT_EQ(Book().amounts(), (std::vector<std::int32_t>{100, 200, 300, 400}));
+}
+
+TEST(Restore, SetsADamagedStoreAsideWithItsLog) {
+    const QString path = Book({{100}}).container.storePath();
+    const QString copy = QFileInfo(path).path() + u"/Kovamo-2001-02-03.sqlite";
+    QFile::copy(path, copy);
+    for (const char* suffix : {"", "-wal"}) {
+        QFile file(path + QLatin1String(suffix));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray(10000, 'x'));
+    }
+    EXPECT_EQ(Ended(QStringLiteral("check")).exitCode(), 1);
+    EXPECT_EQ(Ended(QStringLiteral("restore 2001-02-03")).exitCode(), 0);
+    EXPECT_EQ(Book().amounts(), std::vector<std::int32_t>{100});
+    const auto files = filesBeside(path);
+    EXPECT_EQ(std::count(files.begin(), files.end(), QByteArray(10000, 'x')), 2);
+}
+
 } // namespace
 } // namespace kovamo

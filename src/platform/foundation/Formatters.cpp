@@ -88,4 +88,8 @@ QString dayText(Instant instant) {
     return patternText(instant, QStringLiteral("yyyy-MM-dd"), icu::Locale::getRoot());
 }
 
+QString minuteText(Instant instant) {
+    return patternText(instant, QStringLiteral("yyyy-MM-dd HH:mm"), icu::Locale::getRoot());
+}
+
 } // namespace kovamo

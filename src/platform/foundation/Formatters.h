@@ -31,4 +31,7 @@ namespace kovamo {
 /// The day of `instant` in the user's zone, for names of files: "2026-11-23" in every locale.
 [[nodiscard]] QString dayText(Instant instant);
 
+/// The day and the time of `instant` likewise: "2026-11-23 10:00".
+[[nodiscard]] QString minuteText(Instant instant);
+
 } // namespace kovamo

@@ -1,8 +1,8 @@
 #include "StoreInspection.h"
 
+#include "Guarded.h"
 #include "StoredValue.h"
 #include "platform/objectstore/file/Soundness.h"
-#include "platform/objectstore/file/StoreError.h"
 
 #include <QFileInfo>
 #include <sqlite3.h>
@@ -12,15 +12,6 @@ namespace kovamo {
 namespace {
 
 constexpr int busyTimeoutMilliseconds = 5000;
-
-template<typename Work>
-auto guarded(const QString& path, Work work) {
-    try {
-        return work();
-    } catch (const SQLite::Exception& error) {
-        fail(QString::fromUtf8(error.what()), error.getExtendedErrorCode(), path);
-    }
-}
 
 void checkpointOnClose(SQLite::Database& database, bool checkpoints) {
     sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, checkpoints ? 0 : 1,
@@ -64,6 +55,18 @@ std::int64_t StoreInspection::count() {
     return guarded(m_path, [&] {
         return m_database->execAndGet("SELECT count(*) FROM " + m_table.name.toStdString())
             .getInt64();
+    });
+}
+
+std::optional<Instant> StoreInspection::latest(const QString& attribute) {
+    return guarded(m_path, [&]() -> std::optional<Instant> {
+        const SQLite::Column latest =
+            m_database->execAndGet(QStringLiteral("SELECT max(\"%1\") FROM %2")
+                                       .arg(attribute, m_table.name)
+                                       .toStdString());
+        if (!latest.isInteger())
+            return std::nullopt;
+        return Instant(std::chrono::milliseconds(latest.getInt64()));
     });
 }
 

@@ -30,6 +30,9 @@ class StoreInspection {
     /// How many records there are.
     [[nodiscard]] std::int64_t count();
 
+    /// The latest date that a record has under the name `attribute`; nothing where none has one.
+    [[nodiscard]] std::optional<Instant> latest(const QString& attribute);
+
     /// Hands each record to `visit`, in the order of their identities.
     void forEach(const std::function<void(ObjectID, Record)>& visit);
 

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QString>
+#include "UnfinishedStore.h"
+
+#include <QStringList>
 #include <SQLiteCpp/Backup.h>
 #include <SQLiteCpp/Database.h>
 #include <optional>
@@ -26,18 +28,15 @@ class StoreCopy {
     /// copy is on the disk under its name, and copies beyond the newest three are gone.
     void finish();
 
+    /// The names of the copies of the store at `storePath`, newest day first.
+    [[nodiscard]] static QStringList names(const QString& storePath);
+
     /// The newest copy of the store at `storePath`, if there is one.
     [[nodiscard]] static std::optional<QString> newest(const QString& storePath);
 
   private:
-    /// A file that goes with the value, unless it has got another name by then.
-    struct Unfinished {
-        QString path;
-        ~Unfinished();
-    };
-
     QString m_storePath;
-    Unfinished m_unfinished;
+    UnfinishedStore m_unfinished;
     std::optional<SQLite::Database> m_target;
     std::optional<SQLite::Backup> m_backup;
 };
