@@ -1,6 +1,7 @@
 #include "RootView.h"
 
 #include "engagement/ReviewHandler.h"
+#include "model/TransactionRefresh.h"
 #include "platform/foundation/Locale.h"
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/foundation/UserDefaults.h"
@@ -17,14 +18,14 @@ constexpr int onboardingPages = 4;
 } // namespace
 
 RootView::RootView(ManagedObjectContext& viewContext)
-    : m_today(Calendar().day(Clock::now())),
+    : m_today(Calendar().today()),
       m_onboardingFinished(UserDefaults::standard().boolean(onboardingFinishedKey())),
       m_onboarding(onboardingPages),
       m_content(viewContext, &ReviewHandler::requestReviewIfAppropriate) {
     connect(&m_onboarding, &OnboardingView::finished, this, &RootView::finishOnboarding);
-    connect(&m_look, &QTimer::timeout, this, &RootView::showToday);
-    m_look.setTimerType(Qt::VeryCoarseTimer);
-    m_look.start(std::chrono::minutes(1));
+    connect(&m_dayTimer, &QTimer::timeout, this, &RootView::showToday);
+    m_dayTimer.setTimerType(Qt::VeryCoarseTimer);
+    m_dayTimer.start(std::chrono::minutes(1));
     connect(qGuiApp, &QGuiApplication::applicationStateChanged, this,
             [this](Qt::ApplicationState state) {
                 if (state == Qt::ApplicationActive)
@@ -48,7 +49,7 @@ void RootView::finishOnboarding() {
 
 void RootView::showToday() {
     const bool isElsewhere = followHostTimeZone();
-    const CalendarDay today = Calendar().day(Clock::now());
+    const CalendarDay today = Calendar().today();
     if (std::exchange(m_today, today) != today || isElsewhere)
         NotificationCenter::defaultCenter().post(transactionRefresh());
 }

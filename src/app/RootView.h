@@ -44,7 +44,7 @@ class RootView : public QObject {
     void showToday();
 
     CalendarDay m_today;
-    QTimer m_look;
+    QTimer m_dayTimer;
     bool m_onboardingFinished;
     OnboardingView m_onboarding;
     ContentView m_content;

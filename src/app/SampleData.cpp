@@ -1,14 +1,13 @@
 #include "SampleData.h"
 
 #include "model/PersistenceController.h"
+#include "model/RecurringType.h"
 #include "model/Transaction.h"
 #include "platform/foundation/Calendar.h"
 
 namespace kovamo {
 
 namespace {
-
-enum class Repeats { never, monthly, yearly };
 
 struct Sample {
     const char* emoji;
@@ -18,22 +17,22 @@ struct Sample {
     /// The month, counted from the current one, and the day in it.
     int month;
     int day;
-    Repeats repeats = Repeats::never;
+    std::optional<RecurringType> recurs = std::nullopt;
     /// For a recurrence, how many months it lasts.
     int months = 24;
 };
 
 constexpr Sample samples[] = {
-    {"💼", "Salary", 3200, true, -14, 1, Repeats::monthly, 60},
-    {"🏠", "Rent", 1150, false, -14, 3, Repeats::monthly, 60},
-    {"📱", "Phone", 25, false, -9, 12, Repeats::monthly},
-    {"🎧", "Music", 11, false, -5, 9, Repeats::monthly},
-    {"🏋️", "Gym", 35, false, 1, 1, Repeats::monthly, 6},
-    {"🎓", "Course", 90, false, -2, 15, Repeats::monthly, 4},
-    {"🧾", "Tax refund", 640, true, -25, 10, Repeats::yearly, 120},
-    {"🚗", "Car insurance", 480, false, -13, 20, Repeats::yearly, 120},
-    {"🎁", "Birthday money", 150, true, -21, 17, Repeats::yearly, 120},
-    {"🛡️", "Liability insurance", 72, false, -16, 5, Repeats::yearly, 120},
+    {"💼", "Salary", 3200, true, -14, 1, RecurringType::monthly, 60},
+    {"🏠", "Rent", 1150, false, -14, 3, RecurringType::monthly, 60},
+    {"📱", "Phone", 25, false, -9, 12, RecurringType::monthly},
+    {"🎧", "Music", 11, false, -5, 9, RecurringType::monthly},
+    {"🏋️", "Gym", 35, false, 1, 1, RecurringType::monthly, 6},
+    {"🎓", "Course", 90, false, -2, 15, RecurringType::monthly, 4},
+    {"🧾", "Tax refund", 640, true, -25, 10, RecurringType::yearly, 120},
+    {"🚗", "Car insurance", 480, false, -13, 20, RecurringType::yearly, 120},
+    {"🎁", "Birthday money", 150, true, -21, 17, RecurringType::yearly, 120},
+    {"🛡️", "Liability insurance", 72, false, -16, 5, RecurringType::yearly, 120},
     {"🛒", "Groceries", 84, false, 0, 2},
     {"☕", "Coffee with Ada", 9, false, 0, 4},
     {"🍕", "Pizza night", 26, false, 0, 6},
@@ -72,9 +71,8 @@ constexpr int noon = 12;
 
 void addSampleData(ManagedObjectContext& context) {
     const Calendar calendar;
-    const CalendarDay today = calendar.day(Clock::now());
+    const CalendarDay today = calendar.today();
     for (const Sample& sample : samples) {
-        const bool recurs = sample.repeats != Repeats::never;
         const int month = today.month + sample.month;
         auto& transaction = context.insert<Transaction>();
         transaction.setId(QUuid::createUuid());
@@ -83,12 +81,11 @@ void addSampleData(ManagedObjectContext& context) {
         transaction.setTitle(QString::fromUtf8(sample.title));
         transaction.setAmount(sample.amount);
         transaction.setIsPositive(sample.isPositive);
-        transaction.setIsRecurring(recurs);
-        transaction.setRecurringType(sample.repeats == Repeats::yearly ? QStringLiteral("yearly")
-                                                                       : QStringLiteral("monthly"));
+        transaction.setIsRecurring(sample.recurs.has_value());
+        transaction.setRecurringType(storedName(sample.recurs.value_or(RecurringType::monthly)));
         transaction.setStartDate(calendar.instant({today.year, month, sample.day}, noon));
-        transaction.setEndDate(
-            calendar.instant({today.year, month + (recurs ? sample.months : 0), sample.day}, noon));
+        transaction.setEndDate(calendar.instant(
+            {today.year, month + (sample.recurs ? sample.months : 0), sample.day}, noon));
     }
     try {
         context.save();

@@ -1,26 +1,36 @@
 #include "ContentView.h"
 
-#include "platform/foundation/NotificationCenter.h"
-#include "platform/objectstore/file/StoreError.h"
-
 #include <utility>
 
 namespace kovamo {
 
+namespace {
+
+/// Enough to know whether anything is stored.
+FetchRequest oneOfAll() {
+    FetchRequest request = Transaction::fetchRequest();
+    request.fetchLimit = 1;
+    return request;
+}
+
+} // namespace
+
 ContentView::ContentView(ManagedObjectContext& viewContext, std::function<void()> requestReview)
-    : m_viewContext(viewContext), m_requestReview(std::move(requestReview)) {
+    : m_viewContext(viewContext), m_requestReview(std::move(requestReview)),
+      m_allTransactions(viewContext, oneOfAll()) {
+    // One save is heard of twice, and laid out once: the form's notification loads the container;
+    // a deletion and what another process saves are told by the context alone.
+    connect(&m_refreshPublisher, &NotificationPublisher::received, this, &ContentView::load);
     connect(&m_transactionContainer, &TransactionContainer::objectWillChange, this,
             &ContentView::layOutLater);
-    // A deletion posts no notification: the screen sees it in the store itself.
     connect(&viewContext, &ManagedObjectContext::objectsDidChange, this, &ContentView::layOutLater);
-    NotificationCenter::defaultCenter().addObserver(transactionRefresh(), this,
-                                                    [this](const QVariant&) { load(); });
 }
 
 QList<TimeFrameChoice> ContentView::timeFrames() {
-    return {{QStringLiteral("**Current**"), 1},
-            {QStringLiteral("**3 Months**"), 2},
-            {QStringLiteral("**12 Months**"), 3}};
+    QList<TimeFrameChoice> choices;
+    for (const NamedTimeFrame& frame : namedTimeFrames)
+        choices.append({QStringLiteral("**%1**").arg(QLatin1String(frame.label)), frame.value});
+    return choices;
 }
 
 void ContentView::setShowAddTransaction(bool show) {
@@ -43,9 +53,9 @@ void ContentView::setShowAddTransaction(bool show) {
 void ContentView::setShowTransactions(bool show) {
     if (std::exchange(m_showTransactions, show) == show)
         return;
-    if (show && !m_allTransactions) {
-        m_allTransactions = std::make_unique<TransactionsView>(m_viewContext);
-        Q_EMIT allTransactionsChanged();
+    if (show && !m_transactionsView) {
+        m_transactionsView = std::make_unique<TransactionsView>(m_viewContext);
+        Q_EMIT transactionsViewChanged();
     }
     Q_EMIT showTransactionsChanged();
 }
@@ -56,8 +66,8 @@ void ContentView::addTransactionDidClose() {
 }
 
 void ContentView::transactionsDidClose() {
-    m_allTransactions.reset();
-    Q_EMIT allTransactionsChanged();
+    m_transactionsView.reset();
+    Q_EMIT transactionsViewChanged();
 }
 
 void ContentView::appear() {
@@ -86,23 +96,13 @@ void ContentView::layOut() {
     if (!std::exchange(m_needsLayout, false))
         return;
     m_isLaidOut = true;
-    m_hasTransactions = isAnythingStored();
+    m_hasTransactions = m_allTransactions.rowCount() > 0;
     m_banner = Banner(m_viewContext, m_selectedTimeFrame);
     m_chart = TransactionChart(m_viewContext, m_selectedTimeFrame);
     auto container = std::make_unique<TransactionContainer>();
     container->fetchTransactions(m_selectedTimeFrame, m_viewContext);
     m_filteredList.setTransactionContainer(std::move(container));
     Q_EMIT laidOut();
-}
-
-bool ContentView::isAnythingStored() const {
-    FetchRequest request = Transaction::fetchRequest();
-    request.fetchLimit = 1;
-    try {
-        return m_viewContext.count(request) > 0;
-    } catch (const StoreError&) {
-        return false;
-    }
 }
 
 } // namespace kovamo

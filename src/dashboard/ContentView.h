@@ -6,6 +6,8 @@
 #include "editing/AddTransactionView.h"
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
+#include "model/TransactionRefresh.h"
+#include "platform/foundation/NotificationCenter.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
@@ -50,8 +52,8 @@ class ContentView : public QObject {
     Q_PROPERTY(kovamo::TransactionChart chart READ chart NOTIFY laidOut)
     Q_PROPERTY(kovamo::FilteredList* filteredList READ filteredList CONSTANT)
     Q_PROPERTY(kovamo::AddTransactionView* addForm READ addForm NOTIFY addFormChanged)
-    Q_PROPERTY(kovamo::TransactionsView* allTransactions READ allTransactions NOTIFY
-                   allTransactionsChanged)
+    Q_PROPERTY(kovamo::TransactionsView* transactionsView READ transactionsView NOTIFY
+                   transactionsViewChanged)
 
   public:
     /// Requires: `viewContext` outlives the screen. `requestReview` runs at each appearance, after
@@ -87,7 +89,7 @@ class ContentView : public QObject {
     /// has closed; null else. A sheet that is opened again on its way out shows the same, but for a
     /// form that has saved.
     [[nodiscard]] AddTransactionView* addForm() const { return m_addForm.get(); }
-    [[nodiscard]] TransactionsView* allTransactions() const { return m_allTransactions.get(); }
+    [[nodiscard]] TransactionsView* transactionsView() const { return m_transactionsView.get(); }
 
     /// A sheet has closed: what it showed goes.
     Q_INVOKABLE void addTransactionDidClose();
@@ -104,14 +106,13 @@ class ContentView : public QObject {
     void showAddTransactionChanged();
     void showTransactionsChanged();
     void addFormChanged();
-    void allTransactionsChanged();
+    void transactionsViewChanged();
     void laidOut();
 
   private:
     void load();
     void layOutLater();
     void layOut();
-    [[nodiscard]] bool isAnythingStored() const;
 
     ManagedObjectContext& m_viewContext;
     std::function<void()> m_requestReview;
@@ -121,13 +122,15 @@ class ContentView : public QObject {
     bool m_hasTransactions = false;
     bool m_needsLayout = false;
     bool m_isLaidOut = false;
+    LiveFetch m_allTransactions;
+    NotificationPublisher m_refreshPublisher{transactionRefresh()};
     TransactionContainer m_transactionContainer;
     Banner m_banner;
     TransactionChart m_chart;
     FilteredList m_filteredList;
     std::unique_ptr<AddTransactionView> m_addForm;
     bool m_addFormIsDone = false;
-    std::unique_ptr<TransactionsView> m_allTransactions;
+    std::unique_ptr<TransactionsView> m_transactionsView;
 };
 
 } // namespace kovamo

@@ -44,7 +44,7 @@ TransactionChart::TransactionChart(ManagedObjectContext& context, TimeFrame time
     endDate = period.end;
     const QString year = QStringLiteral("y");
     if (localizedDateText(startDate, year) != localizedDateText(endDate, year))
-        stackDateFormat = QStringLiteral("MM/dd/yy");
+        stackDateFormat.dateFormat = QStringLiteral("MM/dd/yy");
     gatherTransactions(timeFrame, context, transactions);
     transactions = radixSorted(std::move(transactions), [](const auto& transaction) {
         const Instant start = required(transaction.id, transaction.startDate, "startDate");
@@ -68,20 +68,12 @@ void TransactionChart::scaleAmounts() {
 }
 
 QString TransactionChart::title() const {
-    switch (selectedTimeFrame) {
-    case 1:
-        return QStringLiteral("Current Month");
-    case 2:
-        return QStringLiteral("3 Months");
-    case 3:
-        return QStringLiteral("12 Months");
-    default:
-        return {};
-    }
+    const NamedTimeFrame* frame = named(selectedTimeFrame);
+    return frame ? QString::fromLatin1(frame->title) : QString();
 }
 
 QString TransactionChart::dates() const {
-    return dateText(startDate, stackDateFormat) + u" - " + dateText(endDate, stackDateFormat);
+    return stackDateFormat.string(startDate) + u" - " + stackDateFormat.string(endDate);
 }
 
 QString TransactionChart::range() const {

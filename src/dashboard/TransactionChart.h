@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ledger/TransactionContainer.h"
+#include "platform/foundation/Formatters.h"
 #include "platform/views/AnyView.h"
 
 #include <QList>
@@ -38,8 +39,8 @@ class TransactionChart {
     /// The same for spendings.
     QList<double> negativeChartData;
     TimeFrame selectedTimeFrame = 1;
-    /// The pattern of the range's dates, with the year where the period spans two.
-    QString stackDateFormat = QStringLiteral("MM/dd");
+    /// Writes the range's dates, with the year where the period spans two.
+    DateFormatter stackDateFormat{QStringLiteral("MM/dd")};
     Instant startDate;
     /// The first moment after the period.
     Instant endDate;

@@ -19,6 +19,6 @@ Sheet {
     onDismissed: content.showTransactions = false
 
     TransactionsView {
-        transactions: sheet.content.allTransactions
+        transactions: sheet.content.transactionsView
     }
 }

@@ -1,6 +1,8 @@
 #include "AddTransactionView.h"
 
 #include "model/PersistenceController.h"
+#include "model/RecurringType.h"
+#include "model/TransactionRefresh.h"
 #include "platform/foundation/NotificationCenter.h"
 
 #include <utility>
@@ -13,8 +15,23 @@ QString onlyDigits(QString text) {
     return text.removeIf([](QChar character) { return character < u'0' || character > u'9'; });
 }
 
-QString firstUpperCased(const QString& text) {
-    return text.left(1).toUpper() + text.mid(1);
+constexpr std::pair<RecurringType, const char*> labels[] = {{RecurringType::monthly, "Monthly"},
+                                                            {RecurringType::yearly, "Yearly"}};
+
+/// The label of a stored type; a text that another program has stored stands for itself.
+QString typeLabel(const QString& stored) {
+    for (const auto& [type, label] : labels)
+        if (recurringType(stored) == type)
+            return QString::fromLatin1(label);
+    return stored.left(1).toUpper() + stored.mid(1);
+}
+
+/// What is stored for a type's label.
+QString storedType(const QString& chosen) {
+    for (const auto& [type, label] : labels)
+        if (chosen == QLatin1String(label))
+            return storedName(type);
+    return chosen.toLower();
 }
 
 std::int32_t parsedAmount(const QString& text) {
@@ -26,10 +43,6 @@ std::int32_t parsedAmount(const QString& text) {
 }
 
 } // namespace
-
-QString transactionRefresh() {
-    return QStringLiteral("TransactionRefresh");
-}
 
 AddTransactionView::AddTransactionView(ManagedObjectContext& viewContext, Transaction* existing,
                                        QObject* parent)
@@ -46,7 +59,7 @@ AddTransactionView::AddTransactionView(ManagedObjectContext& viewContext, Transa
     m_startDate = required(existing->id(), existing->startDate(), "startDate");
     m_endDate = required(existing->id(), existing->endDate(), "endDate");
     if (const auto type = existing->recurringType())
-        m_selectedType = firstUpperCased(*type);
+        m_selectedType = typeLabel(*type);
     m_selectedPositive = positiveTypes().at(existing->isPositive() ? 0 : 1);
 }
 
@@ -60,7 +73,10 @@ QStringList AddTransactionView::positiveTypes() {
 }
 
 QStringList AddTransactionView::types() {
-    return {QStringLiteral("Monthly"), QStringLiteral("Yearly")};
+    QStringList types;
+    for (const auto& [type, label] : labels)
+        types.append(QString::fromLatin1(label));
+    return types;
 }
 
 template<typename T>
@@ -135,7 +151,7 @@ void AddTransactionView::save() {
         transaction.setAmount(parsedAmount(m_amount));
         transaction.setIsPositive(m_selectedPositive == positiveTypes().front());
         transaction.setIsRecurring(m_isRecurring);
-        transaction.setRecurringType(m_selectedType.toLower());
+        transaction.setRecurringType(storedType(m_selectedType));
         transaction.setTitle(m_title);
         transaction.setEmoji(m_emoji);
         transaction.setStartDate(m_startDate);

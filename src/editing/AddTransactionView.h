@@ -9,10 +9,6 @@
 
 namespace kovamo {
 
-/// The name of the notification that a transaction was saved by the form; its object is the text
-/// "refresh".
-[[nodiscard]] QString transactionRefresh();
-
 /// The form through which a transaction is recorded or changed. It holds a copy of every field;
 /// nothing of it reaches the store before save(). Dates are moments, as momentOf() makes them.
 class AddTransactionView : public QObject {
@@ -39,6 +35,9 @@ class AddTransactionView : public QObject {
     /// is a fatal error. Requires: context and record outlive the form.
     explicit AddTransactionView(ManagedObjectContext& viewContext, Transaction* existing = nullptr,
                                 QObject* parent = nullptr);
+
+    /// The record that is being edited; null for a new one.
+    [[nodiscard]] Transaction* existingTransaction() const { return m_existingTransaction; }
 
     [[nodiscard]] QString navigationTitle() const;
 

@@ -1,5 +1,6 @@
 #include "Recurrence.h"
 
+#include "model/RecurringType.h"
 #include "platform/foundation/CheckedArithmetic.h"
 
 #include <algorithm>
@@ -48,10 +49,10 @@ int activeMonths(Instant start, Instant end, std::span<const MonthSlot> slots) {
 std::optional<TransactionPresentation> expanded(const Transaction& transaction,
                                                 std::span<const MonthSlot> slots,
                                                 const Calendar& calendar) {
-    const std::optional<QString> type = transaction.recurringType();
-    if (type == QLatin1String("monthly"))
+    const std::optional<RecurringType> type = recurringType(transaction.recurringType());
+    if (type == RecurringType::monthly)
         return monthly(transaction, slots);
-    if (type == QLatin1String("yearly"))
+    if (type == RecurringType::yearly)
         return yearly(transaction, slots, calendar);
     return std::nullopt;
 }

@@ -2,6 +2,9 @@
 
 #include "platform/foundation/Calendar.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace kovamo {
 
 namespace {
@@ -11,36 +14,31 @@ Instant monthEndBefore(const Calendar& calendar, int year, int month) {
     return calendar.instant({year, month, 1}, -1);
 }
 
-bool isWholeMonths(TimeFrame timeFrame) {
-    return timeFrame >= 1 && timeFrame <= 3;
-}
-
 } // namespace
+
+const NamedTimeFrame* named(TimeFrame timeFrame) {
+    const auto* found = std::ranges::find(namedTimeFrames, timeFrame, &NamedTimeFrame::value);
+    return found == std::end(namedTimeFrames) ? nullptr : found;
+}
 
 Period periodBounds(TimeFrame timeFrame) {
     const Calendar calendar;
     const Instant now = Clock::now();
     const CalendarDay today = calendar.day(now);
     return {calendar.instant({today.year, today.month, 1}),
-            isWholeMonths(timeFrame)
+            named(timeFrame)
                 ? monthEndBefore(calendar, today.year, today.month + slotCount(timeFrame))
                 : now};
 }
 
 int slotCount(TimeFrame timeFrame) {
-    switch (timeFrame) {
-    case 3:
-        return 12;
-    case 2:
-        return 3;
-    default:
-        return 1;
-    }
+    const NamedTimeFrame* frame = named(timeFrame);
+    return frame ? frame->months : 1;
 }
 
 std::vector<MonthSlot> monthSlots(TimeFrame timeFrame) {
     const Calendar calendar;
-    const CalendarDay today = calendar.day(Clock::now());
+    const CalendarDay today = calendar.today();
     const auto endBefore = [&](int i) {
         return monthEndBefore(calendar, today.year, today.month + i);
     };

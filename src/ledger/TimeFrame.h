@@ -10,6 +10,25 @@ namespace kovamo {
 /// one on; any other value is the current month up to now.
 using TimeFrame = int;
 
+/// A time frame that the user can choose.
+struct NamedTimeFrame {
+    TimeFrame value;
+    int months;
+    /// What it is called in a choice, and above its chart.
+    const char* label;
+    const char* title;
+};
+
+/// The time frames that the user can choose, the shortest first.
+inline constexpr NamedTimeFrame namedTimeFrames[] = {
+    {1, 1, "Current", "Current Month"},
+    {2, 3, "3 Months", "3 Months"},
+    {3, 12, "12 Months", "12 Months"},
+};
+
+/// The one of them that `timeFrame` is; null for any other value.
+[[nodiscard]] const NamedTimeFrame* named(TimeFrame timeFrame);
+
 /// The days of a time frame: `start` is in it, `end` is not.
 struct Period {
     Instant start;

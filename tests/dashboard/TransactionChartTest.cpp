@@ -21,9 +21,9 @@ TEST(TransactionChart, SaysItsFrameAndRange) {
     EXPECT_EQ(year.columnText(0), u"title\n+ $1,200\nMar 11, 2024");
     // The Buddhist year of January is that of March; a Persian year ends with March.
     qputenv("LC_ALL", "th_TH.UTF-8");
-    EXPECT_EQ(TransactionChart(book.context, 2).stackDateFormat, u"MM/dd");
+    EXPECT_EQ(TransactionChart(book.context, 2).stackDateFormat.dateFormat, u"MM/dd");
     qputenv("LC_ALL", "fa_IR.UTF-8");
-    EXPECT_EQ(TransactionChart(book.context, 2).stackDateFormat, u"MM/dd/yy");
+    EXPECT_EQ(TransactionChart(book.context, 2).stackDateFormat.dateFormat, u"MM/dd/yy");
 }
 
 TEST(TransactionChart, PaintsAColumnWhereItFindsOne) {

@@ -58,13 +58,12 @@ TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
     form.setIsRecurring(false);
 
     std::string order;
-    const QObject observer;
-    NotificationCenter::defaultCenter().addObserver(
-        QStringLiteral("TransactionRefresh"), &observer, [&](const QVariant& object) {
-            EXPECT_EQ(object, QVariant(QStringLiteral("refresh")));
-            EXPECT_FALSE(book.context.hasChanges());
-            order += "told ";
-        });
+    const NotificationPublisher publisher(QStringLiteral("TransactionRefresh"));
+    QObject::connect(&publisher, &NotificationPublisher::received, [&](const QVariant& object) {
+        EXPECT_EQ(object, QVariant(QStringLiteral("refresh")));
+        EXPECT_FALSE(book.context.hasChanges());
+        order += "told ";
+    });
     QObject::connect(&form, &AddTransactionView::dismissed, [&] { order += "closed"; });
     form.save();
     form.save();

@@ -106,13 +106,13 @@ QVariant MonthCalendar::data(const QModelIndex& index, int role) const {
     const Calendar calendar;
     switch (role) {
     case Text:
-        return dateText(calendar.instant(day, 12), QStringLiteral("d"));
+        return DateFormatter{QStringLiteral("d")}.string(calendar.instant(day, 12));
     case FullText:
         return localizedDateText(calendar.instant(day, 12), QStringLiteral("yMMMMEEEEd"));
     case Selected:
         return day == calendar.day(m_moment);
     case Today:
-        return day == calendar.day(Clock::now());
+        return day == calendar.today();
     case Enabled:
         return !isBeforeMinimum(day);
     default:

@@ -31,6 +31,9 @@ class Calendar {
   public:
     Calendar();
 
+    /// The day that it is now.
+    [[nodiscard]] CalendarDay today() const { return day(Clock::now()); }
+
     /// The day on which `instant` falls.
     [[nodiscard]] CalendarDay day(Instant instant) const;
 

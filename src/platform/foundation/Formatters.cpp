@@ -27,20 +27,6 @@ void require(UErrorCode status, const char* what) {
                        .arg(QLatin1String(what), QLatin1String(u_errorName(status))));
 }
 
-QString wholeNumberText(std::int64_t number, UNumberFormatStyle style) {
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::NumberFormat> format(
-        icu::NumberFormat::createInstance(moneyLocale(), style, status));
-    require(status, "numbers");
-    format->setMinimumFractionDigits(0);
-    format->setMaximumFractionDigits(0);
-    icu::UnicodeString text;
-    format->format(number, text);
-    if (text.isEmpty())
-        fatalError(QStringLiteral("The formatter returned no text for %1").arg(number));
-    return toQt(text);
-}
-
 QString formatted(const icu::DateFormat& format, Instant instant) {
     icu::UnicodeString text;
     format.format(static_cast<UDate>(instant.time_since_epoch().count()), text);
@@ -56,8 +42,26 @@ QString patternText(Instant instant, const QString& pattern, const icu::Locale& 
 
 } // namespace
 
+QString NumberFormatter::string(std::int64_t number) const {
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::NumberFormat> format(icu::NumberFormat::createInstance(
+        moneyLocale(), numberStyle == Style::currency ? UNUM_CURRENCY : UNUM_DECIMAL, status));
+    require(status, "numbers");
+    format->setMinimumFractionDigits(0);
+    format->setMaximumFractionDigits(0);
+    icu::UnicodeString text;
+    format->format(number, text);
+    if (text.isEmpty())
+        fatalError(QStringLiteral("The formatter returned no text for %1").arg(number));
+    return toQt(text);
+}
+
+QString DateFormatter::string(Instant instant) const {
+    return patternText(instant, dateFormat, dateLocale());
+}
+
 QString currencyText(std::int64_t amount) {
-    return wholeNumberText(amount, UNUM_CURRENCY);
+    return NumberFormatter{NumberFormatter::Style::currency}.string(amount);
 }
 
 QString withDirection(bool isPositive, const QString& money) {
@@ -65,15 +69,11 @@ QString withDirection(bool isPositive, const QString& money) {
 }
 
 QString numberText(std::int64_t number) {
-    return wholeNumberText(number, UNUM_DECIMAL);
+    return NumberFormatter{}.string(number);
 }
 
 QString digitText(int digit) {
     return numberText(digit);
-}
-
-QString dateText(Instant instant, const QString& pattern) {
-    return patternText(instant, pattern, dateLocale());
 }
 
 QString localizedDateText(Instant instant, const QString& skeleton) {

@@ -7,8 +7,26 @@
 
 namespace kovamo {
 
-/// A whole amount as money in the user's locale: currency style, its symbol, digits and grouping,
-/// no fraction. A formatter that yields no text is a fatal error.
+/// Writes whole numbers as the user's locale for money does: its digits and grouping, in currency
+/// style its symbol, no fraction.
+struct NumberFormatter {
+    enum class Style { decimal, currency };
+
+    Style numberStyle = Style::decimal;
+
+    /// `number` as text. A formatter that yields none is a fatal error.
+    [[nodiscard]] QString string(std::int64_t number) const;
+};
+
+/// Writes dates by a fixed pattern (such as "MM/dd") in the user's locale, calendar and zone. The
+/// pattern's letters are those of Unicode's LDML.
+struct DateFormatter {
+    QString dateFormat;
+
+    [[nodiscard]] QString string(Instant instant) const;
+};
+
+/// A whole amount as money in the user's locale: NumberFormatter in currency style.
 [[nodiscard]] QString currencyText(std::int64_t amount);
 
 /// A money text with its direction: "+ " or "- " before it.
@@ -19,10 +37,6 @@ namespace kovamo {
 
 /// The digit 0 … 9 as the user's locale for money writes it.
 [[nodiscard]] QString digitText(int digit);
-
-/// `instant` written by a fixed date pattern (such as "MM/dd") in the user's locale, calendar and
-/// zone. The pattern's letters are those of Unicode's LDML.
-[[nodiscard]] QString dateText(Instant instant, const QString& pattern);
 
 /// `instant` with the fields of a skeleton (such as "y" or "yMMMd") in the order and form that
 /// the user's locale prefers.

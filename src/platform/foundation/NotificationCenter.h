@@ -6,8 +6,9 @@
 
 namespace kovamo {
 
-/// Carries named notifications from whoever posts them to whoever listens, on the poster's
-/// thread: post() returns after every observer has run, in the order in which they connected.
+/// Carries named notifications from whoever posts them to the NotificationPublishers of that name,
+/// on the poster's thread: post() returns after each has delivered it, in the order in which they
+/// were made.
 class NotificationCenter : public QObject {
     Q_OBJECT
 
@@ -15,21 +16,24 @@ class NotificationCenter : public QObject {
     /// The process's default centre.
     static NotificationCenter& defaultCenter();
 
-    /// Delivers the notification `name` with its `object` to all observers.
+    /// Delivers the notification `name` with its `object` to all of its publishers.
     void post(const QString& name, const QVariant& object = {}) { Q_EMIT posted(name, object); }
-
-    /// Runs `handler(object)` at each notification `name` for as long as `context` lives.
-    template<typename Handler>
-    void addObserver(const QString& name, const QObject* context, Handler handler) {
-        connect(this, &NotificationCenter::posted, context,
-                [name, handler](const QString& posted, const QVariant& object) {
-                    if (posted == name)
-                        handler(object);
-                });
-    }
 
   Q_SIGNALS:
     void posted(const QString& name, const QVariant& object);
+};
+
+/// Delivers the notifications of one name for as long as it lives.
+class NotificationPublisher : public QObject {
+    Q_OBJECT
+
+  public:
+    explicit NotificationPublisher(
+        const QString& name, NotificationCenter& center = NotificationCenter::defaultCenter());
+
+  Q_SIGNALS:
+    /// The notification came, with its object.
+    void received(const QVariant& object);
 };
 
 } // namespace kovamo

@@ -21,9 +21,10 @@ int LiveFetch::rowCount(const QModelIndex& parent) const {
 }
 
 void LiveFetch::follow(const ObjectChanges& changes) {
-    // Several records that moved at once leave no order to search for the place of one.
+    // Several records that moved at once leave no order to search for the place of one, and behind
+    // a limit there are records that are not known here.
     const auto touched = changes.inserted.size() + changes.updated.size() + changes.deleted.size();
-    if (changes.everything || touched > 1)
+    if (changes.everything || touched > 1 || m_request.fetchLimit)
         return refetch();
     for (const ManagedObject* object : changes.inserted)
         insert(*object);

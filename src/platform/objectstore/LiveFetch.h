@@ -21,6 +21,9 @@ class LiveFetch : public QAbstractListModel {
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
 
+    /// Nothing: what a row shows is up to the screen that derives from this.
+    [[nodiscard]] QVariant data(const QModelIndex&, int) const override { return {}; }
+
   private:
     void follow(const ObjectChanges& changes);
     void refetch();

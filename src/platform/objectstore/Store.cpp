@@ -27,7 +27,7 @@ std::string utf8(const QString& text) {
 }
 
 CalendarDay today() {
-    return Calendar().day(Clock::now());
+    return Calendar().today();
 }
 
 /// Runs a statement with the record's values and its identity; returns how many rows it changed.
