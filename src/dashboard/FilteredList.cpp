@@ -3,54 +3,63 @@
 #include "editing/TransactionLine.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kovamo {
 
-const QList<TransactionPresentation>& FilteredList::transactions() const {
-    return m_transactionContainer->transactions();
+void FilteredList::setTransactionContainer(std::unique_ptr<TransactionContainer> container) {
+    m_transactionContainer = std::move(container);
+    connect(m_transactionContainer.get(), &TransactionContainer::objectWillChange, this,
+            &FilteredList::showLater);
+    show();
 }
 
-void FilteredList::setTransactionContainer(std::unique_ptr<TransactionContainer> container) {
-    const auto& before = transactions();
-    const auto& after = container->transactions();
-    const auto common = static_cast<std::ptrdiff_t>(std::min(before.size(), after.size()));
-    const auto head = std::mismatch(before.begin(), before.begin() + common, after.begin()).first -
-                      before.begin();
-    const auto tail =
-        std::mismatch(before.rbegin(), before.rbegin() + (common - head), after.rbegin()).first -
-        before.rbegin();
-    const auto first = static_cast<int>(head);
-    const int removed = static_cast<int>(before.size()) - first - static_cast<int>(tail);
-    const int inserted = static_cast<int>(after.size()) - first - static_cast<int>(tail);
+void FilteredList::showLater() {
+    if (!std::exchange(m_willShow, true))
+        QMetaObject::invokeMethod(this, &FilteredList::show, Qt::QueuedConnection);
+}
 
-    if (removed > 0)
-        beginRemoveRows({}, first, first + removed - 1);
-    m_transactionContainer = std::move(container);
-    m_gapStart = first;
-    m_gapSize = inserted;
-    if (removed > 0)
+void FilteredList::show() {
+    m_willShow = false;
+    const QList<TransactionPresentation>& after = m_transactionContainer->transactions();
+    const auto common = std::min(m_rows.size(), after.size());
+    const auto head =
+        std::mismatch(m_rows.cbegin(), m_rows.cbegin() + common, after.begin()).first -
+        m_rows.cbegin();
+    const auto tail =
+        std::mismatch(m_rows.crbegin(), m_rows.crbegin() + (common - head), after.rbegin()).first -
+        m_rows.crbegin();
+    const auto removed = m_rows.size() - head - tail;
+    const auto inserted = after.size() - head - tail;
+    const auto first = static_cast<int>(head);
+
+    if (removed > 0) {
+        beginRemoveRows({}, first, static_cast<int>(head + removed) - 1);
+        m_rows.remove(head, removed);
         endRemoveRows();
-    if (inserted > 0)
-        beginInsertRows({}, first, first + inserted - 1);
-    m_gapSize = 0;
-    if (inserted > 0)
+    }
+    if (inserted > 0) {
+        beginInsertRows({}, first, static_cast<int>(head + inserted) - 1);
+        m_rows = after;
         endInsertRows();
-    if (rowCount() > 0)
+    }
+    // Rows that stay may have other contents: they are equal by their ids.
+    m_rows = after;
+    if (!m_rows.isEmpty())
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }
 
 int FilteredList::rowCount(const QModelIndex& parent) const {
-    return parent.isValid() ? 0 : static_cast<int>(transactions().size()) - m_gapSize;
+    return parent.isValid() ? 0 : static_cast<int>(m_rows.size());
 }
 
 QVariant FilteredList::data(const QModelIndex& index, int role) const {
-    const int place = index.row() < m_gapStart ? index.row() : index.row() + m_gapSize;
-    const TransactionPresentation& row = transactions().at(place);
+    const TransactionPresentation& row = m_rows.at(index.row());
     switch (role) {
     case LineRole:
         return QVariant::fromValue(TransactionLine(row));
     case HasDividerRole:
-        return row != transactions().back();
+        return row != m_rows.back();
     default:
         return {};
     }

@@ -9,6 +9,7 @@
 namespace kovamo {
 
 /// The rows under the chart: one for each transaction that a container publishes, in its order.
+/// What it publishes later shows in the event loop's next turn.
 class FilteredList : public QAbstractListModel {
     Q_OBJECT
     QML_ELEMENT
@@ -26,13 +27,13 @@ class FilteredList : public QAbstractListModel {
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
   private:
-    [[nodiscard]] const QList<TransactionPresentation>& transactions() const;
+    void showLater();
+    void show();
 
-    std::unique_ptr<TransactionContainer> m_transactionContainer =
-        std::make_unique<TransactionContainer>();
-    // Rows of the container that are still to be announced: none but while it is exchanged.
-    int m_gapStart = 0;
-    int m_gapSize = 0;
+    std::unique_ptr<TransactionContainer> m_transactionContainer;
+    // What the views know of; the container may be ahead.
+    QList<TransactionPresentation> m_rows;
+    bool m_willShow = false;
 };
 
 } // namespace kovamo

@@ -3,6 +3,8 @@
 #include "TransactionLine.h"
 #include "platform/objectstore/file/StoreError.h"
 
+#include <set>
+
 namespace kovamo {
 
 namespace {
@@ -35,7 +37,7 @@ bool TransactionsView::edit(int row) {
 }
 
 void TransactionsView::remove(const QList<int>& rows) {
-    for (const int row : rows) {
+    for (const int row : std::set<int>(rows.begin(), rows.end())) {
         if (row < 0 || row >= rowCount())
             continue;
         m_viewContext.deleteObject(transaction(row));

@@ -3,6 +3,7 @@
 #include "support/Book.h"
 
 #include <QAbstractItemModelTester>
+#include <QCoreApplication>
 #include <random>
 
 namespace kovamo {
@@ -30,6 +31,7 @@ TEST(FilteredList, FollowsAnyChangeRowByRow) {
     const QAbstractItemModelTester tester(&list,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     std::mt19937 random(11);
+    TransactionContainer* shown = nullptr;
     for (int step = 0; step < 150; ++step) {
         const auto all = book.all();
         if (random() % 3 || all.empty())
@@ -38,7 +40,14 @@ TEST(FilteredList, FollowsAnyChangeRowByRow) {
         else
             book.context.deleteObject(*all[random() % all.size()]);
         const auto timeFrame = static_cast<TimeFrame>(random() % 4);
-        list.setTransactionContainer(loaded(book, timeFrame));
+        if (step % 2) {
+            shown->fetchTransactions(timeFrame, book.context);
+            QCoreApplication::sendPostedEvents();
+        } else {
+            auto container = loaded(book, timeFrame);
+            shown = container.get();
+            list.setTransactionContainer(std::move(container));
+        }
         FilteredList fresh;
         fresh.setTransactionContainer(loaded(book, timeFrame));
         ASSERT_EQ(rows(list), rows(fresh)) << "after step " << step;

@@ -8,7 +8,7 @@ namespace {
 TEST(TransactionsView, DeletesEachRowOfTheListThatIsLeft) {
     Book book({{5}, {4}, {3}, {2}, {1}});
     TransactionsView screen(book.context);
-    screen.remove({0, 1});
+    screen.remove({1, 0, 1});
     EXPECT_EQ(Book().amounts(), (std::vector{4, 2, 1}));
 }
 
