@@ -1,4 +1,4 @@
-// The least program of the toolkit's that shows a window made in QML.
+// The smallest Qt program that shows a window made in QML.
 
 #include <QGuiApplication>
 #include <QQmlApplicationEngine>

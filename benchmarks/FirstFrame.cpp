@@ -1,4 +1,4 @@
-// Loaded into a program of the toolkit's before it starts (LD_PRELOAD): when its first window has
+// Loaded into a Qt program before it starts (LD_PRELOAD): when its first window has
 // shown its first frame, it says so by a byte to the file that was opened for that, and ends.
 
 #include "FirstFrame.h"

@@ -21,7 +21,7 @@ void preferColourEmoji() {
     QFont font = QGuiApplication::font();
     const QStringList families{QFontInfo(font).family(), QStringLiteral("Noto Sans"),
                                emojiFontFamily()};
-    // Text fields have a font of their own and are not asked for its families.
+    // Text fields ignore the families of the application font, but follow substitutions.
     QFont::insertSubstitutions(font.family(), families);
     font.setFamilies(families);
     QGuiApplication::setFont(font);

@@ -34,7 +34,7 @@ Window {
         target: TextStyles
         value: window.textScale
     }
-    // A sheet or menu that is on its way keeps the window's shortcuts to itself.
+    // Application-wide: a window shortcut does not work while a popup is open.
     Shortcut {
         context: Qt.ApplicationShortcut
         sequence: "Ctrl+Q"
@@ -45,7 +45,7 @@ Window {
         active: window.root.onboardingFinished
         focus: active
 
-        // The toolkit's Loader does not make bound components.
+        // Loader cannot create components under pragma ComponentBehavior: Bound in Qt 6.4.
         // qmllint disable unqualified
         sourceComponent: ContentView {
             content: window.root.content
@@ -54,7 +54,7 @@ Window {
         }
         // qmllint enable unqualified
     }
-    // Most starts do without the onboarding: its file is read where it shows.
+    // By file name, so that a start without the onboarding does not load its types.
     Loader {
         active: !window.root.onboardingFinished
         anchors.fill: parent

@@ -33,17 +33,17 @@ QString meetingPlace(const QString& folder) {
 } // namespace
 
 SoleInstance::SoleInstance(const QString& folder) : m_path(meetingPlace(folder)) {
-    // The one there is may be on its way in or out: each turn looks at both.
+    // The other process may be starting or ending: try both, to take its place and to ask it.
     for (const QDeadlineTimer deadline(patience); !deadline.hasExpired(); QThread::msleep(pause)) {
         if (lock()) {
-            // What a killed process left.
+            // The socket file of a process that was killed.
             QLocalServer::removeServer(m_path);
             connect(&m_server, &QLocalServer::newConnection, this, &SoleInstance::answer);
             m_server.setSocketOptions(QLocalServer::UserAccessOption);
             m_server.listen(m_path);
             return;
         }
-        // Where nothing can be locked, everybody goes alone.
+        // If the folder cannot hold a lock file, go on without looking for other processes.
         const bool isTaken = errno == EWOULDBLOCK;
         m_handedOver = isTaken && ask();
         if (m_handedOver || !isTaken)

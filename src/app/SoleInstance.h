@@ -21,8 +21,8 @@ class SoleInstance : public QObject {
     [[nodiscard]] bool handedOver() const { return m_handedOver; }
 
   Q_SIGNALS:
-    /// A later start asks for the window; on Wayland its leave to take the focus stands where the
-    /// toolkit's next request for it looks.
+    /// A later start asks for the window; on Wayland its activation token is then in the
+    /// environment variable that Qt reads at the next requestActivate().
     void activationRequested();
 
   private:

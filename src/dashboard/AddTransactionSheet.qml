@@ -3,7 +3,7 @@ import Kovamo.Controls
 import Kovamo.Dashboard
 import Kovamo.Editing
 
-// The stack makes its page where the toolkit refuses bound components.
+// NavigationStack creates the page in another file, which ComponentBehavior: Bound forbids.
 // qmllint disable unqualified
 
 /*! The form for a new transaction, on a sheet. */

@@ -52,7 +52,7 @@ void Banner::judge(std::int64_t sum) {
 }
 
 QString Banner::numberText() const {
-    // Some locales group money by another rule than numbers.
+    // Some locales (de_AT) group money by another rule than plain numbers: take it from money text.
     static const QRegularExpression digits(QStringLiteral("\\p{Nd}(.*\\p{Nd})?"));
     return digits.match(currencyText(kovamo)).captured();
 }

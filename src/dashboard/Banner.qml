@@ -24,7 +24,7 @@ Item {
         Accessible.name: text
         Accessible.role: Accessible.Notification
         anchors.fill: ground
-        // Nothing is said of what does not show; the way back is said again.
+        // Announcement ignores an empty text. A blank makes it announce a verdict that returns.
         text: card.balance.isShown ? card.balance.sentence : " "
     }
     Column {
@@ -40,7 +40,7 @@ Item {
             color: SystemColors.white
             fits: true
             font: TextStyles.headline
-            // White on the yellow of the card's top needs an edge.
+            // White on yellow is hard to read without an edge.
             style: Text.Raised
             styleColor: SystemColors.dimming
             text: card.balance.infoText

@@ -37,7 +37,7 @@ void ContentView::setShowAddTransaction(bool show) {
     if (std::exchange(m_showAddTransaction, show) == show)
         return;
     if (show && (!m_addForm || m_addFormIsDone)) {
-        // It stays until the other is shown in its place.
+        // Deleted at the end of this block, when the sheet shows the new form.
         const auto before =
             std::exchange(m_addForm, std::make_unique<AddTransactionView>(m_viewContext));
         m_addFormIsDone = false;

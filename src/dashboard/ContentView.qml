@@ -18,8 +18,8 @@ FocusScope {
         anchors.fill: parent
         color: SystemColors.background
     }
-    // The window's own shortcuts would rest under a sheet, or not, by when the toolkit's controls
-    // were loaded.
+    // Application-wide and switched off by hand: whether a window shortcut works under a popup
+    // depends on when Qt Quick Controls were loaded.
     Shortcut {
         context: Qt.ApplicationShortcut
         enabled: !screen.isCovered

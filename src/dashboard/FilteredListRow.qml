@@ -15,7 +15,7 @@ Focusable {
     focus: ListView.isCurrentItem
     implicitHeight: words.implicitHeight
 
-    // A row in waiting is nothing to a screen reader.
+    // A pooled delegate would stay in the accessibility tree.
     ListView.onPooled: visible = false
     ListView.onReused: visible = true
 

@@ -2,7 +2,7 @@ import QtQuick
 import Kovamo.Controls
 import Kovamo.Dashboard
 
-// The list makes its header where the toolkit refuses bound components.
+// ListView creates the header, which pragma ComponentBehavior: Bound does not allow in Qt 6.4.
 // qmllint disable unqualified
 
 /*! What is shown of a time frame that something falls into: balance, chart and list. */
@@ -43,7 +43,7 @@ Item {
             chart: period.content.chart
             width: list.width
 
-            // A header that grows stays above the top of the view unless it is asked in.
+            // A header that grows would stay above the visible part of the list.
             onHeightChanged: list.positionViewAtBeginning()
         }
     }

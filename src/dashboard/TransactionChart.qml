@@ -62,7 +62,7 @@ FocusScope {
             event.accepted = row.column >= 0;
             row.column = -1;
         }
-        // Time runs to the right in every language's chart.
+        // Columns run from left to right in every language, so the arrow keys are not mirrored.
         Keys.onLeftPressed: row.step(-1)
         Keys.onRightPressed: row.step(1)
         activeFocusOnTab: true
@@ -87,7 +87,7 @@ FocusScope {
         HoverHandler {
             id: hover
 
-            // The point is told anew with each frame, also where the mouse rests.
+            // HoverHandler reports its point with every frame, even if the mouse rests: compare it.
             property real at: -1
 
             acceptedDevices: PointerDevice.Mouse

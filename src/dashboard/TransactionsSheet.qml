@@ -3,7 +3,7 @@ import Kovamo.Controls
 import Kovamo.Dashboard
 import Kovamo.Editing
 
-// The sheet makes its content where the toolkit refuses bound components.
+// Sheet creates its content in another file, which ComponentBehavior: Bound does not allow.
 // qmllint disable unqualified
 
 /*! All transactions, on a sheet. */

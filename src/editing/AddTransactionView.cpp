@@ -101,7 +101,7 @@ void AddTransactionView::setTitle(const QString& title) {
 
 void AddTransactionView::setAmount(const QString& amount) {
     const QString digits = onlyDigits(amount);
-    // The field shows what was typed until it is told otherwise.
+    // The text field keeps showing a rejected character until the property is signalled.
     if (!assign(m_amount, digits, &AddTransactionView::amountChanged) && digits != amount)
         Q_EMIT amountChanged();
 }
@@ -139,7 +139,7 @@ bool AddTransactionView::canSave() const {
 }
 
 void AddTransactionView::save() {
-    // The form can still be reached while it moves off the screen.
+    // Save can be pressed again while the form slides off the screen.
     if (!canSave() || std::exchange(m_isSaved, true))
         return;
     try {

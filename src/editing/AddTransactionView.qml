@@ -21,7 +21,7 @@ GroupedForm {
     navigationTitle: transaction.navigationTitle
 
     Shortcut {
-        // A form that moves off the screen leaves the key to the next one.
+        // A form that is sliding off the screen must not take the key from the form that follows it.
         enabled: form.transaction.canSave && form.T.StackView.status >= T.StackView.Activating
         sequence: "Ctrl+S"
 
@@ -111,8 +111,8 @@ GroupedForm {
 
         onDismissed: form.choosesEmoji = false
 
-        // What a sheet makes of a component here it makes elsewhere, where the toolkit refuses
-        // bound ones.
+        // Sheet creates its content from a component in another file, which pragma
+        // ComponentBehavior: Bound does not allow; so the ids of this file are used unqualified.
         // qmllint disable unqualified
         EmojiPanel {
             onCancelled: form.choosesEmoji = false

@@ -27,7 +27,7 @@ Transaction& TransactionsView::transaction(int row) const {
 }
 
 bool TransactionsView::edit(int row) {
-    // A row that has just been deleted is there until the next frame.
+    // A delegate can still be tapped until the next frame after its record was deleted.
     if (!index(row).isValid() || !transaction(row).exists())
         return false;
     m_formBefore = std::move(m_form);
@@ -44,7 +44,7 @@ void TransactionsView::remove(const QList<int>& rows) {
         try {
             m_viewContext.save();
         } catch (const StoreError&) {
-            // Passed over by design: the context keeps the deletion pending.
+            // Ignored on purpose: the context keeps the deletion pending.
         }
     }
 }
@@ -52,7 +52,7 @@ void TransactionsView::remove(const QList<int>& rows) {
 QVariant TransactionsView::data(const QModelIndex& index, int role) const {
     if (role != LineRole)
         return {};
-    // What another process has just deleted goes from the list in a moment.
+    // A record that another process has just deleted stays in the list until the next merge.
     const Transaction& shown = transaction(index.row());
     return QVariant::fromValue(shown.exists() ? TransactionLine(TransactionPresentation(shown))
                                               : TransactionLine());

@@ -43,7 +43,7 @@ class TransactionsView : public LiveFetch {
 
     ManagedObjectContext& m_viewContext;
     std::unique_ptr<AddTransactionView> m_form;
-    // It may still be on its way out of the screen.
+    // Kept until its page has slid off the screen, which still shows it.
     std::unique_ptr<AddTransactionView> m_formBefore;
 };
 

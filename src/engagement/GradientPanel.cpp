@@ -15,13 +15,13 @@ namespace {
 
 constexpr double shadowOpacity = 0.33;
 
-// The share of a blurred edge's darkness at `distance` outside of it, for a blur of radius 1: the
-// normal distribution whose second deviation is the radius.
+// How dark a blurred edge is at `distance` outside of it, as a fraction, for a blur of radius 1.
+// The blur is a normal distribution; its radius is two standard deviations.
 double darkness(double distance) {
     return std::erfc(std::numbers::sqrt2 * distance) / 2;
 }
 
-// A blurred shape is a stack of faint ones, each a little larger than the next.
+// A blurred shape is painted as many faint ones, each a little larger than the one above.
 void paintShadow(QPainter& painter, const QRectF& rect, double radius, double blur) {
     QColor shade = resolved(SystemColor::black, ColorScheme::light);
     painter.setCompositionMode(QPainter::CompositionMode_Plus);

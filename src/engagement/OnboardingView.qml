@@ -23,7 +23,7 @@ FocusScope {
         boundsBehavior: Flickable.StopAtBounds
         currentIndex: view.onboarding.currentPage
         highlightMoveDuration: Motion.duration(300)
-        // At rest, another width moves the pages, and must not turn them.
+        // A resize scrolls the ListView too; that must not change currentPage.
         highlightRangeMode: moving ? ListView.StrictlyEnforceRange : ListView.ApplyRange
         model: view.onboarding.totalPages
         objectName: "pages"
@@ -41,7 +41,7 @@ FocusScope {
 
         onCurrentIndexChanged: view.onboarding.currentPage = currentIndex
 
-        // Another width puts every page elsewhere, once they have taken it.
+        // After a resize the pages have new positions: scroll to the current one.
         onWidthChanged: settling.restart()
 
         Timer {

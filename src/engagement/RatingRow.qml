@@ -26,14 +26,14 @@ Row {
             required property int index
 
             implicitHeight: implicitWidth
-            // Five of them fit, however large the text beside them is.
+            // Five stars must fit the card, whatever the text size.
             implicitWidth: 44
             opacity: 1
             text: index === 0 ? "1 star" : "%1 stars".arg(index + 1)
 
             Keys.onLeftPressed: star.nextItemInFocusChain(LayoutMirroring.enabled).forceActiveFocus(Qt.TabFocusReason)
             Keys.onRightPressed: star.nextItemInFocusChain(!LayoutMirroring.enabled).forceActiveFocus(Qt.TabFocusReason)
-            // The star that was left says so after the next has said that it is pointed at.
+            // HoverHandler tells the star that was entered before the one that was left.
             onCandidateChanged: if (candidate || stars.pointedAt === index + 1)
                 stars.pointedAt = candidate ? index + 1 : 0
             onClicked: stars.chosen(index + 1)

@@ -41,7 +41,7 @@ void ReviewHandler::requestReviewIfAppropriate() {
     defaults.set(countKey, count);
 
     const QString version = bundleVersion();
-    // Nothing writes this key: how often a prompt shows is throttled by the platform alone.
+    // Nothing writes this key, on purpose: the platform alone limits how often a prompt shows.
     const auto lastPrompted = defaults.string(QStringLiteral("lastVersionPromptedForReviewKey"));
     if (count >= firstStartUpThatAsks && lastPrompted != version)
         MainQueue::asyncAfter(delay, requestReview);

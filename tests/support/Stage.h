@@ -23,7 +23,7 @@ class Stage {
     /// A property of an item, the root's for no name.
     [[nodiscard]] QVariant get(const char* property, const char* name = "") const;
     void set(const char* property, const QVariant& value, const char* name = "");
-    /// The names of the emphasised moments that the QML noted by `log += "…"`.
+    /// What the QML appended to `log` by `log += "…"`.
     [[nodiscard]] std::string log() const { return get("log").toString().toStdString(); }
 
     [[nodiscard]] QQuickItem* showing(const QString& text) { return shown(m_window, text); }

@@ -16,7 +16,7 @@ void PlotScale::include(std::span<const double> values) {
 }
 
 std::vector<double> PlotScale::fractions(std::span<const double> values) const {
-    // Halves, so that the range of the largest doubles is finite too.
+    // Halved, because the difference of the largest doubles would be infinite.
     const double range = highest / 2 - lowest / 2;
     std::vector<double> fractions;
     for (const double value : values)

@@ -27,7 +27,7 @@ void gather(const QQuickItem* item, QList<QQuickItem*>& found) {
             gather(child, found);
 }
 
-/// What the toolkit says of an item, without what is inside it.
+/// What Qt says of an item, without its children.
 class AccessibleItem : public QAccessibleObject {
   public:
     explicit AccessibleItem(QQuickItem* item) : QAccessibleObject(item) {}

@@ -12,7 +12,7 @@ void Announcement::setText(const QString& text) {
     Q_EMIT textChanged();
     if (before.isEmpty() || text.isEmpty())
         return;
-    // A notification is read out when it comes in sight.
+    // Screen readers read a notification out when it is shown.
     QAccessibleEvent event(this, QAccessible::ObjectShow);
     QAccessible::updateAccessibility(&event);
 }

@@ -33,7 +33,7 @@ class LastUsed : public QObject {
             focused->setVisualFocus(m_isKeyboard);
     }
 
-    // It goes with the app that it watches.
+    // Its parent is the application, which deletes it.
     LastUsed() : QObject(QCoreApplication::instance()) {
         QCoreApplication::instance()->installEventFilter(this);
     }
@@ -74,7 +74,7 @@ void Focusable::itemChange(ItemChange change, const ItemChangeData& data) {
 void Focusable::handOnLater() {
     if (isVisible())
         return;
-    // Once all that is hidden with it is hidden, too.
+    // Queued: items that are hidden together with this one must not get the focus.
     const auto handOn = [this] {
         if (hasActiveFocus() && !isVisible())
             nextItemInFocusChain()->forceActiveFocus(Qt::OtherFocusReason);

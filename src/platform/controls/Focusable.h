@@ -7,7 +7,7 @@ namespace kovamo {
 
 /// An item that the Tab key reaches and that knows whether the user is to see its focus: while the
 /// keyboard is used, and not the pointer. One that is hidden hands the focus on to the next. The
-/// toolkit's own controls know most of it too, but insist on their accessible role.
+/// Qt's own controls know most of it too, but fix their accessible role.
 class Focusable : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT

@@ -26,8 +26,8 @@ QString promptTimesKey() {
     return QStringLiteral("platformReviewPromptTimesKey");
 }
 
-// The prompts of the last 365 days; one ahead of the clock counts, so that setting the clock back
-// gives no new ones.
+// The prompts of the last 365 days. Times in the future count too: otherwise setting the clock back
+// would allow more prompts.
 QStringList recentPrompts() {
     const Instant start = Clock::now() - year;
     QStringList times = UserDefaults::standard()
@@ -40,7 +40,7 @@ QStringList recentPrompts() {
     return times;
 }
 
-// The desktop's caches of its applications name those that open a kind of address.
+// mimeinfo.cache lists which applications open which kind of address.
 bool hasSoftwareCentre() {
     const QStringList caches = QStandardPaths::locateAll(QStandardPaths::ApplicationsLocation,
                                                          QStringLiteral("mimeinfo.cache"));
@@ -86,7 +86,7 @@ void StoreReviewController::setSheetPresented(bool presented) {
 void StoreReviewController::rate(int stars) {
     if (!m_scene || m_stars > 0)
         return;
-    // Without slashes: a host would lose its capital letters.
+    // Without "//": QUrl would take the identifier for a host name and make it lower case.
     const QUrl page(u"appstream:" + Bundle::main().text(kCFBundleIdentifierKey));
     if (hasSoftwareCentre() && QDesktopServices::openUrl(page))
         return dismiss();

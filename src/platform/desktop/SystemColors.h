@@ -101,7 +101,7 @@ class SystemColors : public QObject {
     void changed();
 
   private:
-    // Where there is a public constructor, the QML engine makes an object of its own with it.
+    // Private: with a public constructor the QML engine makes an object of its own.
     SystemColors() = default;
 
     ColorScheme m_scheme = ColorScheme::light;

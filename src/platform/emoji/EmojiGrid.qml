@@ -65,7 +65,7 @@ Focusable {
         cacheBuffer: 0
         clip: true
         keyNavigationEnabled: false
-        // Without a width every row would be flat, and all of them in sight.
+        // With no width yet, rows have no height, and ListView would create all 900 of them.
         model: width > 0 ? grid.rows : null
         reuseItems: true
 
@@ -79,7 +79,7 @@ Focusable {
 
             width: list.width
 
-            // A row in waiting is nothing to a screen reader.
+            // A pooled delegate would stay in the accessibility tree.
             ListView.onPooled: visible = false
             ListView.onReused: visible = true
 

@@ -19,7 +19,7 @@ FormRow {
     /*! The user changed the text to `text`. */
     signal edited(string text)
 
-    // The caret keeps its distance from the end: what the owner takes out was typed before it.
+    // Characters that the owner rejects lie before the caret: keep its distance from the end.
     function follow() {
         if (input.text === field.text)
             return;
@@ -39,7 +39,7 @@ FormRow {
     T.TextField {
         id: input
 
-        // Half the caret stands before the first letter.
+        // Half of the caret is drawn to the left of the first letter.
         readonly property int halfCaret: 1
 
         Accessible.name: field.placeholder
@@ -72,7 +72,7 @@ FormRow {
             }
 
             SequentialAnimation on opacity  {
-                // Not to rest in the dark.
+                // Finish the blink, so that the caret never stops while it is invisible.
                 alwaysRunToEnd: true
                 loops: Animation.Infinite
                 running: input.cursorVisible && !Motion.reduced
@@ -111,7 +111,7 @@ FormRow {
         id: accessories
 
         anchors.right: parent.right
-        // A button's symbol, in its middle, ends where the other rows end.
+        // The symbol is narrower than its button: shift it so that it lines up with the rows' ends.
         anchors.rightMargin: slot.children.length > 0 ? (Metrics.symbolSize - Metrics.rowHeight) / 2 : 0
         anchors.verticalCenter: parent.verticalCenter
 

@@ -26,7 +26,7 @@ FocusScope {
     onFocusedItemChanged: settling.restart()
     onHeightChanged: settling.restart()
 
-    // Rows find their places first.
+    // Wait until the Column has placed the rows.
     Timer {
         id: settling
 

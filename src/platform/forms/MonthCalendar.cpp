@@ -81,7 +81,7 @@ void MonthCalendar::nextMonth() {
 
 void MonthCalendar::moveCursor(int days) {
     const CalendarDay target = day(m_cursor.day + days);
-    // From before the minimum, the way forward leads out.
+    // A day before the minimum can still be left by moving forward.
     if (days > 0 || !isBeforeMinimum(target))
         show(target);
 }

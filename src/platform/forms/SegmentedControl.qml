@@ -70,7 +70,7 @@ Focusable {
         x: control.inset
         y: control.inset
 
-        // The toolkit's text hands the press on to what scrolls behind it: the tap stands apart.
+        // A press on Text goes to the Flickable behind it, so the TapHandler lies on the segment.
         Item {
             id: segment
 

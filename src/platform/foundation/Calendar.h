@@ -58,7 +58,7 @@ class Calendar {
     [[nodiscard]] int field(UCalendarDateFields name) const;
     [[nodiscard]] Instant instantOfFields() const;
 
-    // A scratch pad: every operation sets it before it reads it.
+    // Working memory: every operation sets it before it reads it.
     std::unique_ptr<icu::Calendar> m_fields;
 };
 

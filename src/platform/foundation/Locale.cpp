@@ -35,7 +35,7 @@ bool isPlain(const icu::Locale& locale) {
 /// The locale of a name as somebody wrote it: of its language and country alone where ICU has no
 /// formatters for what follows them ("@calendar=…").
 icu::Locale named(QByteArray name) {
-    // ICU takes the C library's names but for its scripts, which to ICU belong behind the language.
+    // The C library writes a script behind the country ("sr_RS@latin"), ICU behind the language.
     constexpr std::pair<const char*, const char*> scripts[] = {
         {"@latin", "_Latn"}, {"@cyrillic", "_Cyrl"}, {"@devanagari", "_Deva"}};
     for (const auto& [modifier, script] : scripts)

@@ -25,7 +25,7 @@ QString preferencesPath() {
         .arg(QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation), name);
 }
 
-// Preferences tell how somebody lives: their folder is made for its owner's eyes alone.
+// Preferences are private: only their owner may read the folder.
 void makeFolder(const QString& path) {
     const QFileInfo folder(path);
     QDir().mkpath(folder.path());
@@ -36,7 +36,7 @@ void makeFolder(const QString& path) {
 
 UserDefaults::UserDefaults()
     : m_settings(std::make_unique<QSettings>(preferencesPath(), QSettings::IniFormat)) {
-    // The sections of a file are parsed when first asked for; only then its faults show.
+    // QSettings parses a section when it is first asked for; only then status() knows of faults.
     (void)m_settings->allKeys();
     if (m_settings->status() == QSettings::NoError)
         return;

@@ -21,8 +21,8 @@ int LiveFetch::rowCount(const QModelIndex& parent) const {
 }
 
 void LiveFetch::follow(const ObjectChanges& changes) {
-    // Several records that moved at once leave no order to search for the place of one, and behind
-    // a limit there are records that are not known here.
+    // With several changes at once the list is not sorted in between, so the binary search for one
+    // record's place would fail; with a limit, the record that moves up is not known here.
     const auto touched = changes.inserted.size() + changes.updated.size() + changes.deleted.size();
     if (changes.everything || touched > 1 || m_request.fetchLimit)
         return refetch();
@@ -48,7 +48,7 @@ void LiveFetch::insert(const ManagedObject& object) {
     if (!matches(object))
         return;
     const int at = place(object);
-    // A record that nobody had announced yet was there at the last fetch already.
+    // A pending record is already part of a fetch that ran before it was announced.
     if (at > 0 && m_ids[static_cast<std::size_t>(at) - 1] == object.objectID())
         return;
     beginInsertRows({}, at, at);

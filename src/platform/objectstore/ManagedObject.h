@@ -62,12 +62,12 @@ class ManagedObject {
     ManagedObjectContext& m_context;
     ObjectID m_objectID;
     mutable std::vector<Value> m_values;
-    // Another writer may have changed the row since the values were read.
+    // Another process may have changed the row since its values were read.
     mutable bool m_isStale = false;
     bool m_isInserted = false;
     bool m_isUpdated = false;
     bool m_isDeleted = false;
-    // In the changes that observers are still to be told.
+    // Whether it is in the changes that objectsDidChange() will announce next.
     bool m_isUnannounced = false;
 };
 

@@ -16,7 +16,7 @@ ManagedObjectContext::ManagedObjectContext(Store& store, const EntityDescription
         try {
             mergeChanges();
         } catch (const StoreError&) {
-            // The next fetch meets it again and fails where it is heard.
+            // A timer has no caller to throw to: the next fetch meets the same error and throws it.
         }
     });
 }
@@ -43,7 +43,7 @@ std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request
 }
 
 std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchRequest& request) {
-    // Another process may delete what was found before it is read.
+    // One read transaction: otherwise another process could delete a record between the two reads.
     const std::unique_ptr<SQLite::Transaction> reading = m_store.readTransaction();
     const std::vector<ObjectID> ids = fetchIDs(request);
     std::vector<ManagedObject*> objects;
@@ -198,7 +198,7 @@ void ManagedObjectContext::announce() {
 
 void ManagedObjectContext::setAutomaticallyMergesChangesFromParent(bool merges) {
     m_mergesChanges = merges;
-    // Looking costs microseconds, and no file system tells when another process's save is whole.
+    // Asking SQLite costs microseconds, and no file watcher can tell when a save is complete.
     m_look.setTimerType(Qt::VeryCoarseTimer);
     if (merges)
         m_look.start(std::chrono::seconds(1));

@@ -26,7 +26,7 @@ namespace {
 using Node = Predicate::Node;
 using NodePointer = std::shared_ptr<const Node>;
 
-// Deeper nesting is nobody's query and would only exhaust the stack.
+// The parser is recursive: without a limit, a text of parentheses overflows the stack.
 constexpr int maximumDepth = 200;
 
 struct OperatorName {

@@ -55,19 +55,20 @@ Store::Store(const QString& path, const EntityDescription& entity, Access access
         m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
                            busyTimeoutMilliseconds);
         m_statements.emplace(*m_database);
-        // A misspelt column must be an error, never a text constant.
+        // Otherwise SQLite takes a misspelt column in double quotes for a text constant.
         sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-        // What is refused or only looked at must not be written to when it is closed again.
+        // Otherwise closing writes the log into a store that was refused or only read.
         checkpointOnClose(false);
         refuseNewer();
         refuseDamaged(access);
-        // Until the log is in use, a journal that is gone must be gone from the disk, too.
+        // Until the write-ahead log is in use: EXTRA syncs the folder after the journal is deleted.
+        // A power cut could bring the journal back otherwise, and undo the save.
         m_database->exec("PRAGMA synchronous = EXTRA");
         if (access == Access::readAndWrite)
             createSchema();
         else if (!isMade())
             fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, path);
-        // Fails where the table lacks a column, and so before anything is written.
+        // Preparing this fails if the table lacks a column: better now than at the first save.
         (void)m_statements->use(m_table.selection);
         (void)changedElsewhere();
     });
@@ -77,20 +78,20 @@ Store::~Store() {
     try {
         m_copy.reset();
         if (!m_wasWritten) {
-            // Without a log, only its empty files are taken away.
+            // Without a log, closing only removes its empty files.
             checkpointOnClose(!hasLog(m_path));
             return;
         }
-        // What has been damaged meanwhile is left as it is.
+        // A file that was damaged meanwhile is not written to.
         if (!faultOf(*m_database).isEmpty())
             return;
         checkpointOnClose(true);
-        // Where another process is at it, the log stays, and nothing is sealed.
+        // If another process has the store open, the log stays and nothing is sealed.
         m_database->setBusyTimeout(0);
         m_database->exec("PRAGMA wal_checkpoint(TRUNCATE)");
         seal(*m_database, m_path);
     } catch (const SQLite::Exception&) {
-        // Without a seal, the next opening looks for itself.
+        // Without a seal, the next opening checks the whole file.
     }
 }
 
@@ -168,7 +169,7 @@ std::vector<ObjectID> Store::select(const FetchRequest& request) const {
                 ids.push_back(id.getInt64());
             while (statement->executeStep());
         }
-        // Sorting here costs less than making SQLite sort what it walks by another index.
+        // Cheaper than letting SQLite sort rows that it reads in the order of another index.
         if (request.sortDescriptors.empty())
             radixSort(ids, sortKey<ObjectID>);
         return ids;
@@ -261,7 +262,7 @@ bool Store::prepareCopy(int pages) {
     try {
         return m_dayOfCopy == today() || !beginCopy() || m_copy->advance(pages);
     } catch (const SQLite::Exception&) {
-        // The write tries again.
+        // keepCopy() tries again before the write.
         m_copy.reset();
         return true;
     }
@@ -275,7 +276,7 @@ void Store::keepCopy() {
         if (beginCopy())
             m_copy->finish();
     } catch (const SQLite::Exception&) {
-        // No room for a copy is no reason not to save.
+        // If the disk has no room for a copy, saving is still worth trying.
     }
     m_copy.reset();
     m_dayOfCopy = day;
@@ -285,7 +286,7 @@ void Store::prepareToWrite() {
     keepCopy();
     if (m_wasWritten)
         return;
-    // Where two writers do this at once, SQLite refuses one of them instead of letting it wait.
+    // SQLite does not wait here: of two processes that switch at once, one gets SQLITE_BUSY.
     const auto setMode = [&] { return m_database->tryExec("PRAGMA journal_mode = WAL"); };
     const QDeadlineTimer deadline(busyTimeoutMilliseconds);
     int code = setMode();

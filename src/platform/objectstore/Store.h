@@ -96,7 +96,7 @@ class Store {
     bool m_wasWritten = false;
     ObjectID m_largestDeleted = 0;
     int m_lastDataVersion = 0;
-    // Texts that many records have in common are held once.
+    // Equal texts of many records share one QString, which saves memory.
     QSet<QString> m_texts;
 };
 

@@ -36,7 +36,7 @@ StoreInspection::StoreInspection(const QString& path, const EntityDescription& e
 }
 
 StoreInspection::~StoreInspection() {
-    // Without a log, only its empty files are taken away.
+    // Without a log, closing only removes its empty files.
     if (m_database)
         checkpointOnClose(*m_database, !hasLog(m_path));
 }

@@ -12,7 +12,7 @@ Loader {
     property bool wanted: false
 
     function load() {
-        // What is on its way without haste is begun anew, for it cannot be hurried.
+        // An asynchronous load cannot be turned into a synchronous one: clear it and start again.
         source = "";
         asynchronous = !wanted;
         setSource(file, properties);

@@ -36,7 +36,7 @@ FocusScope {
         title: stack.titleOf(view.currentItem)
         width: parent.width
 
-        // The button that has the focus goes with the page.
+        // The back button disappears with its page: the focus must not stay in it.
         onBack: if (stack.pop())
             view.forceActiveFocus(Qt.BacktabFocusReason)
     }

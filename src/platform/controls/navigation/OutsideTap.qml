@@ -12,7 +12,7 @@ Item {
     parent: inside.Window.contentItem
     visible: enabled
     width: parent ? parent.width : 0
-    // Above the window's sheets and menus.
+    // The overlay lies above sheets and menus, so that a tap on those is seen too.
     z: 2000000
 
     containmentMask: QtObject {

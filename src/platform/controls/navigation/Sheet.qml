@@ -38,7 +38,7 @@ Item {
     }
 
     function close() {
-        // Another sheet may have opened meanwhile.
+        // If another sheet has opened meanwhile, the focus is there and stays there.
         const hasFocus = layer.activeFocus || !sheet.Window.active;
         popup.close();
         if (hasFocus && sheet.focusedBefore !== null)
@@ -64,7 +64,7 @@ Item {
         closePolicy: T.Popup.NoAutoClose
         focus: true
         height: parent ? parent.height : 0
-        // Of modal popups one over another, the toolkit gives the wheel to none.
+        // With several modal popups open, Qt delivers wheel events to none of them.
         modal: layer.activeFocus
         parent: sheet.overlay
         width: parent ? parent.width : 0

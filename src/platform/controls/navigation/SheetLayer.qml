@@ -64,7 +64,7 @@ FocusScope {
         TapHandler {
             gesturePolicy: TapHandler.ReleaseWithinBounds
 
-            // The second tap on what opened the sheet is not for it.
+            // Ignores the second tap of a double tap on the button that opened the sheet.
             onTapped: if (layer.position === 1)
                 layer.dismissed()
         }
@@ -88,13 +88,13 @@ FocusScope {
             radius: Metrics.cardRadius
         }
         TapHandler {
-            // A tap on the card is not a tap beside it.
+            // Takes taps on the card, which would otherwise reach the area that dismisses.
             gesturePolicy: TapHandler.WithinBounds
         }
         Item {
             id: slot
 
-            // What the card shows ends above the on-screen keyboard.
+            // The content ends above the on-screen keyboard.
             anchors.bottomMargin: Math.max(layer.floating ? Metrics.cardRadius : 0, layer.cardBottom - layer.keyboardTop)
             anchors.fill: parent
         }
@@ -102,7 +102,7 @@ FocusScope {
             height: layer.barHeight
             width: parent.width
 
-            // A hand that has stopped before it lets go throws nothing.
+            // If the finger rested before it was lifted, its last speed does not count as a throw.
             Timer {
                 id: resting
 

@@ -29,7 +29,7 @@ DeletableRow {
         row.visible = false;
     }
 
-    /*! Shows the menu beside a point, so that no second press there is a choice. */
+    /*! Shows the menu a little beside a point, so that a double click does not hit its first item. */
     function showMenu(x: real, y: real) {
         row.forceActiveFocus(Qt.MouseFocusReason);
         menu.popup(row, x + Metrics.step, y + Metrics.step);
@@ -46,8 +46,8 @@ DeletableRow {
 
     Accessible.name: accessibleName
     Accessible.role: Accessible.ListItem
-    // A key that is held down deletes one record, not the whole list, and none that the user does
-    // not see to be the one.
+    // Ignores auto-repeat, so that holding the key deletes one record and not the list, and does
+    // nothing while no row is marked: the user could not tell which record would go.
     Keys.onDeletePressed: event => {
         if (row.isMarked && !event.isAutoRepeat)
             row.deleteRequested();
@@ -62,11 +62,11 @@ DeletableRow {
     implicitHeight: Metrics.rowHeight
     width: ListView.view ? ListView.view.width : implicitWidth
 
-    // A row in waiting is nothing to a screen reader, and closed for its next record.
+    // A pooled delegate would stay in the accessibility tree, and open for its next record.
     ListView.onPooled: row.rest()
     ListView.onReused: row.visible = true
     onActivated: row.clicked()
-    // The Delete key is for the row that was pulled aside, not for another one.
+    // The Delete key must mean the row that is open, not the one that had the focus.
     onOpenedChanged: if (opened)
         row.forceActiveFocus(Qt.MouseFocusReason)
 
@@ -105,7 +105,7 @@ DeletableRow {
             TapHandler {
                 gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                // The row goes all the way, so that a second tap does not meet the next one.
+                // The row slides out first: deleted at once, a second tap would hit the row that moves up.
                 onTapped: row.slide(row.width)
             }
         }

@@ -13,7 +13,7 @@ namespace kovamo {
 
 /// One line of text that is meant to be an emoji, in colour even where the language's own font has
 /// it in black; any other text looks as usual. What is wider than the item is cut with an ellipsis.
-/// The toolkit's own text decodes an emoji's picture several times at each layout: here what looks
+/// Qt's Text decodes an emoji's picture several times at each layout: here what looks
 /// alike is drawn once.
 class EmojiText : public QQuickPaintedItem {
     Q_OBJECT

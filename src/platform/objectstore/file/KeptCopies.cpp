@@ -58,7 +58,7 @@ class LockedStore {
   public:
     explicit LockedStore(const QString& path)
         : m_database(path.toStdString(), SQLite::OPEN_READWRITE, busyTimeoutMilliseconds) {
-        // When this is closed, another store has its name, and what lies beside it.
+        // By the time this is closed, the name and the log beside it belong to another store.
         sqlite3_db_config(m_database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
         do {
             m_writing.reset();
@@ -92,7 +92,7 @@ std::unique_ptr<LockedStore> locked(const QString& path) {
 void copyContent(const QString& from, const QString& to) {
     SQLite::Database source(from.toStdString(), SQLite::OPEN_READONLY, busyTimeoutMilliseconds);
     SQLite::Database target(to.toStdString(), SQLite::OPEN_READWRITE);
-    // Nobody opens it before it is whole and on the disk.
+    // The name is given last: nobody opens the file before it is complete and on the disk.
     target.exec("PRAGMA journal_mode = OFF");
     target.exec("PRAGMA synchronous = OFF");
     if (SQLite::Backup(target, source).executeStep(-1) != SQLITE_DONE)

@@ -59,7 +59,7 @@ bool isEmptied(const QString& path) {
     const QFileInfo file(path);
     if (!file.exists())
         QFile::remove(sealPath(path));
-    // SQLite would take a log away from beside an empty file.
+    // SQLite deletes a log that lies beside an empty file: look before it opens the file.
     return file.isFile() && file.size() == 0 && (QFile::exists(sealPath(path)) || hasLog(path));
 }
 

@@ -44,14 +44,14 @@ QString freedPath(const QString& storePath) {
 StoreCopy::StoreCopy(SQLite::Database& source, const QString& storePath)
     : m_storePath(storePath), m_unfinished(freedPath(storePath)),
       m_target(std::in_place, m_unfinished.path().toStdString(), SQLite::OPEN_READWRITE) {
-    // Nobody opens the copy before it is whole and on the disk.
+    // The name is given last: nobody opens the copy before it is complete and on the disk.
     m_target->exec("PRAGMA journal_mode = OFF");
     m_target->exec("PRAGMA synchronous = OFF");
     m_backup.emplace(*m_target, source);
 }
 
 bool StoreCopy::advance(int pages) {
-    // The first step copies nothing, and counts.
+    // step(0) copies no page: it only makes SQLite fill in the number of pages.
     const int left = m_backup->getRemainingPageCount();
     m_backup->executeStep(std::clamp(left - 1, 0, pages));
     return m_backup->getRemainingPageCount() <= 1;

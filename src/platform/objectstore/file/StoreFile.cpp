@@ -29,7 +29,7 @@ void makeFolder(const QString& folder, const QString& path) {
 
 void makeStoreFile(const QString& path) {
     makeFolder(QFileInfo(path).path(), path);
-    // One that is there is SQLite's alone: to open and close it here would give up its locks.
+    // Never open an existing file here: closing it would drop the locks that SQLite holds on it.
     const QByteArray name = QFile::encodeName(path);
     const int file = ::open(name.constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
     int code = file < 0 ? errno : 0;
