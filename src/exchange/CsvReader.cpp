@@ -77,7 +77,7 @@ bool CsvReader::next() {
             return false;
         const bool isEmptyLine = size == 0 && (line[0] == '\n' || line[0] == '\r');
         size += isEmptyLine ? 0 : qsizetype(line.size());
-        if (size > longestRecord)
+        if (size > m_lines.longest())
             failParsing(QStringLiteral("A quoted text is too long"));
     }
 }

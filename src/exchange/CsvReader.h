@@ -16,6 +16,8 @@ class CsvReader {
     ~CsvReader();
     Q_DISABLE_COPY_MOVE(CsvReader)
 
+    [[nodiscard]] char separator() const { return m_separator; }
+
     /// Reads the next record that is no empty line; returns whether there is one. Throws a Fault,
     /// and goes on with the next line at the next call.
     [[nodiscard]] bool next();

@@ -3,8 +3,12 @@
 #include "CsvRecordReader.h"
 #include "JsonReader.h"
 #include "KnownRecords.h"
+#include "StatementReader.h"
 #include "model/Transaction.h"
 #include "platform/objectstore/BulkWrite.h"
+#include "platform/objectstore/file/StoreError.h"
+
+#include <QTemporaryFile>
 
 namespace kovamo {
 
@@ -19,6 +23,24 @@ void note(std::vector<LineFault>& list, qint64& count, qint64 line, const QStrin
 
 QString nameOf(std::span<const Value> values) {
     return std::get<QUuid>(values[Transaction::Id]).toString(QUuid::WithoutBraces);
+}
+
+/// What a pipe brings, in a file that goes with the value; nothing for a device that can be read
+/// again. The store is not locked while a pipe makes one wait.
+std::unique_ptr<QFile> spool(QIODevice& device) {
+    if (!device.isSequential())
+        return nullptr;
+    auto file = std::make_unique<QTemporaryFile>();
+    const auto require = [&](bool isDone) {
+        if (!isDone)
+            fail(file->errorString(), file->error(), file->fileName());
+    };
+    require(file->open());
+    QByteArray bytes(256 * 1024, Qt::Uninitialized);
+    for (qint64 size = 0; (size = device.read(bytes.data(), bytes.size())) > 0;)
+        require(file->write(bytes.constData(), size) == size);
+    require(file->seek(0));
+    return file;
 }
 
 /// Goes through a file. What it adds and changes goes to `write`, if that is given.
@@ -42,7 +64,7 @@ ImportReport run(Store& store, QIODevice& device, const ImportOptions& options, 
     });
     ObjectID nextID = write ? write->nextID() : 0;
     const auto take = [&](std::span<const Value> values) {
-        const auto [standing, id] = known.take(nextID, values);
+        const auto [standing, id] = known.take(nextID, values, reader->rounding() != nullptr);
         switch (standing) {
         case KnownRecords::Standing::added:
             ++report.added;
@@ -79,6 +101,11 @@ ImportReport run(Store& store, QIODevice& device, const ImportOptions& options, 
         } catch (const Fault& why) {
             fault(reader->line(), why);
         }
+        constexpr qint64 hopeless = 1000;
+        if (report.faultCount == hopeless && report.added + report.same == 0) {
+            report.isRefused = true; // no file of records, and perhaps an endless one
+            return report;
+        }
         if (options.progress && reader->position() >= told + step) {
             told = reader->position();
             if (!options.progress(told)) {
@@ -87,8 +114,11 @@ ImportReport run(Store& store, QIODevice& device, const ImportOptions& options, 
             }
         }
     }
-    if (report.faultCount > 0 && !options.skipBad)
-        report.isRefused = true;
+    if (const Rounding* rounding = reader->rounding()) {
+        report.rounded = rounding->count;
+        report.roundedSum = rounding->hundredths;
+    }
+    report.isRefused = report.faultCount > 0 && !options.skipBad;
     return report;
 }
 
@@ -97,23 +127,30 @@ ImportReport run(Store& store, QIODevice& device, const ImportOptions& options, 
 std::unique_ptr<RecordReader> makeRecordReader(QIODevice& device, const ImportOptions& options) {
     if (options.format == ExchangeFormat::json)
         return std::make_unique<JsonReader>(device);
-    auto lines = std::make_unique<LineReader>(device);
-    CsvReader header(*lines, ',');
-    if (!header.next())
-        throw Fault{QStringLiteral("The file is empty")};
-    auto columns = ownHeader(header.fields());
-    if (!columns)
-        throw Fault{QStringLiteral("The file has not the columns of a record")};
-    return std::make_unique<CsvRecordReader>(std::move(lines), *std::move(columns));
+    const qint64 start = device.pos();
+    if (options.columns.isEmpty()) {
+        auto lines = std::make_unique<LineReader>(device, LineReader::longestHeader);
+        CsvReader header(*lines, ',', true);
+        if (!header.next())
+            throw Fault{QStringLiteral("The file is empty")};
+        if (auto columns = ownHeader(header.fields())) {
+            lines->setLongest(LineReader::longestRecord);
+            return std::make_unique<CsvRecordReader>(std::move(lines), *std::move(columns));
+        }
+    }
+    device.seek(start);
+    return std::make_unique<StatementReader>(device, options);
 }
 
 ImportReport planImport(Store& store, QIODevice& device, const ImportOptions& options) {
-    return run(store, device, options, nullptr);
+    const auto spooled = spool(device);
+    return run(store, spooled ? *spooled : device, options, nullptr);
 }
 
 ImportReport importRecords(Store& store, QIODevice& device, const ImportOptions& options) {
+    const auto spooled = spool(device);
     BulkWrite write(store);
-    ImportReport report = run(store, device, options, &write);
+    ImportReport report = run(store, spooled ? *spooled : device, options, &write);
     if (!report.isRefused)
         write.commit();
     return report;

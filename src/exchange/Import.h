@@ -52,8 +52,8 @@ struct ImportReport {
     /// Lines that cannot be read: the first ten, and their count.
     std::vector<LineFault> faults;
     qint64 faultCount = 0;
-    /// How many amounts of a statement were rounded to whole numbers, half away from zero, and by
-    /// how much, in hundredths of hundredths: what was read less what is stored.
+    /// How many amounts of a statement were rounded to whole numbers, half away from zero, and what
+    /// was read less what they became, in hundredths.
     qint64 rounded = 0;
     qint64 roundedSum = 0;
     /// Whether the file was refused, and nothing of it stored: for its faults, or because progress

@@ -75,7 +75,8 @@ void KnownRecords::addStored(ObjectID id, std::span<const Value> values) {
         (void)insert(id, values, digest(values));
 }
 
-KnownRecords::Verdict KnownRecords::take(ObjectID nextID, std::span<const Value> values) {
+KnownRecords::Verdict KnownRecords::take(ObjectID nextID, std::span<const Value> values,
+                                         bool isOnlyNewOrKnown) {
     using enum Standing;
     const std::uint64_t mark = digest(values);
     if (isAbsent(values[Transaction::Id])) {
@@ -84,6 +85,8 @@ KnownRecords::Verdict KnownRecords::take(ObjectID nextID, std::span<const Value>
     }
     if (insert(nextID, values, mark))
         return {added};
+    if (isOnlyNewOrKnown)
+        return {same};
     const QByteArray key = keyOf(values);
     m_selection->bindNoCopy(1, key.constData(), int(key.size()));
     m_selection->executeStep();

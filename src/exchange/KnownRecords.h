@@ -29,8 +29,9 @@ class KnownRecords {
     };
 
     /// Compares a record that comes in with what is known, and from then on knows it instead where
-    /// it wins. `nextID` is its identity if it is added.
-    [[nodiscard]] Verdict take(ObjectID nextID, std::span<const Value> values);
+    /// it wins; one that is only new or known never wins. `nextID` is its identity if it is added.
+    [[nodiscard]] Verdict take(ObjectID nextID, std::span<const Value> values,
+                               bool isOnlyNewOrKnown = false);
 
   private:
     struct Counts {

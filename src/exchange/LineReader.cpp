@@ -39,7 +39,7 @@ std::string_view LineReader::next() {
             m_start += qsizetype(size);
             return {from, size};
         }
-        if (m_end - m_start > longestRecord) {
+        if (m_end - m_start > m_longest) {
             m_start = m_end;
             throw Fault{QStringLiteral("The line is too long")};
         }

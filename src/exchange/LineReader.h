@@ -6,18 +6,24 @@
 
 namespace kovamo {
 
-/// The longest line or record of a file, in bytes: more is no file of records.
-inline constexpr qsizetype longestRecord = 64 * 1024 * 1024;
-
 /// A device's lines, one after the other, in memory of the longest one's size. CR, LF and both
 /// together end a line. A mark of the byte order at the start of UTF-8 is passed over.
 class LineReader {
   public:
+    /// The longest line, in bytes: more is no file of records, and no header.
+    static constexpr qsizetype longestRecord = 64 * 1024 * 1024;
+    static constexpr qsizetype longestHeader = 1024 * 1024;
+
     /// Requires: `device` is open for reading and outlives the reader.
-    explicit LineReader(QIODevice& device) : m_device(device) {}
+    explicit LineReader(QIODevice& device, qsizetype longest = longestRecord)
+        : m_device(device), m_longest(longest) {}
+
+    /// How long a line may be, and a record of several lines, in bytes.
+    [[nodiscard]] qsizetype longest() const { return m_longest; }
+    void setLongest(qsizetype longest) { m_longest = longest; }
 
     /// The next line with its end, until the next call; nothing at the end of the device. Throws a
-    /// Fault for a line longer than longestRecord, and goes on behind its start at the next call.
+    /// Fault for a line that is too long, and goes on behind its start at the next call.
     [[nodiscard]] std::string_view next();
 
     /// The number of the line that next() returned, from 1.
@@ -30,6 +36,7 @@ class LineReader {
     bool fill();
 
     QIODevice& m_device;
+    qsizetype m_longest;
     QByteArray m_buffer;
     qsizetype m_start = 0;
     qsizetype m_end = 0;

@@ -9,6 +9,13 @@ namespace kovamo {
 
 struct ImportOptions;
 
+/// How many amounts were rounded to whole numbers, and what was read less what they became, in
+/// hundredths.
+struct Rounding {
+    qint64 count = 0;
+    qint64 hundredths = 0;
+};
+
 /// The records of a file, one after the other, as values of a transaction.
 class RecordReader {
   public:
@@ -20,6 +27,9 @@ class RecordReader {
 
     /// The number of the line on which the record begins, from 1.
     [[nodiscard]] virtual qint64 line() const = 0;
+
+    /// What was rounded so far; nothing where the file has ids and whole numbers of its own.
+    [[nodiscard]] virtual const Rounding* rounding() const { return nullptr; }
 
     /// How many bytes of the file have been read.
     [[nodiscard]] virtual qint64 position() const = 0;
