@@ -32,10 +32,13 @@ build_packages=(
     unicode-data
 )
 
-# The accessibility test starts a display and buses of its own; the privacy test traces the app.
+# The accessibility test starts a display and buses of its own; the privacy test traces the app;
+# what reads a journal reads the app's.
 test_packages=(
     at-spi2-core
     dbus-daemon
+    hledger
+    ledger
     libgtest-dev
     strace
     tzdata
@@ -45,7 +48,7 @@ test_packages=(
 # The QML checker wants the types of every module that a module in use stands on.
 lint_packages=(clang-format qml6-module-qtqml-models)
 
-bench_packages=(dbus-daemon gnuplot-nox libbenchmark-dev xvfb)
+bench_packages=(dbus-daemon gnuplot-nox ledger libbenchmark-dev sqlite3 xvfb)
 
 fuzz_packages=(clang libclang-rt-14-dev llvm)
 
