@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <limits>
 
 namespace kovamo {
 
@@ -19,9 +20,10 @@ void fill(Cell& cell, const QJsonValue& value, std::string_view name) {
             throw Fault{QStringLiteral("The %1 has half a character").arg(latin1(name))};
         cell.set(text.toStdString());
     } else if (value.isDouble()) {
-        const double number = value.toDouble();
-        const bool isWhole = number == static_cast<double>(static_cast<qint64>(number));
-        cell.set(isWhole ? std::to_string(value.toInteger()) : std::to_string(number));
+        constexpr qint64 none = std::numeric_limits<qint64>::min();
+        const qint64 whole = value.toInteger(none);
+        cell.set(whole == none ? QByteArray::number(value.toDouble()).toStdString()
+                               : std::to_string(whole));
     } else if (!value.isNull() && !value.isUndefined()) {
         throw Fault{QStringLiteral("The %1 is neither a text nor a number").arg(latin1(name))};
     }

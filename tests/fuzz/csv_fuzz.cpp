@@ -1,0 +1,8 @@
+// A CSV file, the app's own or a statement: its records come back from both formats.
+
+#include "RecordFuzz.h"
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    kovamo::checkReading({reinterpret_cast<const char*>(data), qsizetype(size)}, {});
+    return 0;
+}
