@@ -3,18 +3,20 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# A package that releases of Debian call by different names stands with all of them, newest first.
+
 # What the app needs to run: the QML modules that its screens import, the plugins that open a
 # window on Wayland and read SVG pictures, and fonts for every script and for emoji.
 run_packages=(
     fonts-noto-cjk
     fonts-noto-color-emoji
     fonts-noto-core
-    libqt6svg6
     qml6-module-qtqml
     qml6-module-qtqml-workerscript
     qml6-module-qtquick
     qml6-module-qtquick-templates
     qml6-module-qtquick-window
+    'qt6-svg-plugins|libqt6svg6'
     qt6-wayland
 )
 
@@ -41,7 +43,7 @@ test_packages=(
     ledger
     libgtest-dev
     strace
-    tzdata
+    'tzdata-legacy|tzdata'
     xvfb
 )
 
@@ -50,7 +52,7 @@ lint_packages=(clang-format qml6-module-qtqml-models)
 
 bench_packages=(dbus-daemon gnuplot-nox ledger libbenchmark-dev sqlite3 xvfb)
 
-fuzz_packages=(clang libclang-rt-14-dev llvm)
+fuzz_packages=(clang libclang-rt-dev llvm)
 
 say() {
     printf '%s\n' "$*" >&2
@@ -69,17 +71,34 @@ apt_install() {
         apt-get install --yes --quiet --no-install-recommends "$@" >&2
 }
 
+# names_here package …: prints the names; of "new|old", the first one that apt knows.
+names_here() {
+    local known package name
+    known=$(apt-cache show --no-all-versions $(printf '%s\n' "$@" | grep -F '|' | tr '|' ' ') \
+        2>/dev/null | sed -n 's/^Package: //p') || true
+    for package; do
+        for name in ${package//|/ }; do
+            [[ $package != *'|'* || $'\n'$known$'\n' == *$'\n'$name$'\n'* ]] && break
+        done
+        printf '%s\n' "$name"
+    done
+}
+
 # install_missing package …: installs those that are not there. The package index is fetched
-# anew only where it does not know a package, or knows it by a file that is gone.
+# anew only where there is none, or it does not know a package, or knows it by a file that is gone.
 install_missing() {
     if ! command -v dpkg-query >/dev/null; then
         say "This is not a Debian system; these packages must be there by other names: $*"
         return
     fi
-    local installed package missing=()
-    installed=$(dpkg-query --show --showformat='|${Package} ${db:Status-Status}|' "$@" \
-        2>/dev/null) || true
-    for package; do
+    if ((EUID == 0)) && ! compgen -G '/var/lib/apt/lists/*_Packages*' >/dev/null; then
+        apt-get update --quiet >&2 || true
+    fi
+    local installed package packages missing=()
+    mapfile -t packages < <(names_here "$@")
+    installed=$(dpkg-query --show --showformat='|${Package} ${db:Status-Status}|' \
+        "${packages[@]}" 2>/dev/null) || true
+    for package in "${packages[@]}"; do
         [[ $installed == *"|$package installed|"* ]] || missing+=("$package")
     done
     ((${#missing[@]})) || return 0
