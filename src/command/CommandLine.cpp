@@ -6,6 +6,7 @@
 #include "platform/objectstore/file/StoreError.h"
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 
 namespace kovamo {
@@ -13,8 +14,9 @@ namespace kovamo {
 namespace {
 
 const std::vector<Command>& commands() {
-    static const std::vector<Command> all{balanceCommand(), listCommand(), checkCommand(),
-                                          copiesCommand(), restoreCommand()};
+    static const std::vector<Command> all{exportCommand(), importCommand(), balanceCommand(),
+                                          listCommand(),   checkCommand(),  copiesCommand(),
+                                          restoreCommand()};
     return all;
 }
 
@@ -53,6 +55,8 @@ std::optional<int> runCommand(const QStringList& arguments) {
     const auto command = std::ranges::find(commands(), arguments.value(0), &Command::name);
     if (command == commands().end())
         return std::nullopt;
+    // Whoever reads the output may go: then writing fails, and the command ends as it is meant to.
+    std::signal(SIGPIPE, SIG_IGN);
     return static_cast<int>(run(*command, arguments.mid(1)));
 }
 

@@ -2,6 +2,7 @@
 
 #include "Output.h"
 #include "ledger/Recurrence.h"
+#include "model/RecurringType.h"
 
 #include <utility>
 
@@ -50,13 +51,13 @@ QStringList TransactionCheck::faultsOf(StoreInspection::Record record) {
 
 void TransactionCheck::checkRecurrence(StoreInspection::Record record, QStringList& faults) const {
     const auto* type = valueOf<QString>(record, Transaction::RecurringType);
-    const bool isMonthly = type && *type == u"monthly";
-    if (!isMonthly && (!type || *type != u"yearly"))
+    const auto known = type ? recurringType(*type) : std::nullopt;
+    if (!known)
         faults.append(QStringLiteral("it recurs neither monthly nor yearly"));
     const auto* amount = valueOf<std::int32_t>(record, Transaction::Amount);
     const auto* start = valueOf<Instant>(record, Transaction::StartDate);
     const auto* end = valueOf<Instant>(record, Transaction::EndDate);
-    if (!isMonthly || !amount || !start || !end)
+    if (known != RecurringType::monthly || !amount || !start || !end)
         return;
     for (const std::vector<MonthSlot>& slots : m_slotsOfFrames) {
         const std::int64_t sum = std::int64_t{*amount} * activeMonths(*start, *end, slots);

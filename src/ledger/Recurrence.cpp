@@ -9,28 +9,15 @@ namespace kovamo {
 
 namespace {
 
-std::optional<TransactionPresentation> monthly(const Transaction& transaction,
-                                               std::span<const MonthSlot> slots) {
-    const Instant start = required(transaction.id(), transaction.startDate(), "startDate");
-    const Instant end = required(transaction.id(), transaction.endDate(), "endDate");
-    const int count = activeMonths(start, end, slots);
-    if (count == 0)
-        return std::nullopt;
-    TransactionPresentation presentation(transaction);
-    presentation.amount = checkedMultiply(presentation.amount, std::int32_t{count});
-    return presentation;
-}
-
-std::optional<TransactionPresentation>
-yearly(const Transaction& transaction, std::span<const MonthSlot> slots, const Calendar& calendar) {
-    const Instant end = required(transaction.id(), transaction.endDate(), "endDate");
-    const bool falls = std::ranges::any_of(slots, [&](const MonthSlot& slot) {
+bool fallsYearly(const TransactionPresentation& transaction, std::span<const MonthSlot> slots,
+                 const Calendar& calendar) {
+    const Instant end = required(transaction.id, transaction.endDate, "endDate");
+    return std::ranges::any_of(slots, [&](const MonthSlot& slot) {
         if (end <= slot.slotStart)
             return false;
-        const Instant start = required(transaction.id(), transaction.startDate(), "startDate");
+        const Instant start = required(transaction.id, transaction.startDate, "startDate");
         return calendar.day(start).month == slot.startMonth;
     });
-    return falls ? std::optional<TransactionPresentation>(transaction) : std::nullopt;
 }
 
 } // namespace
@@ -46,15 +33,27 @@ int activeMonths(Instant start, Instant end, std::span<const MonthSlot> slots) {
     return static_cast<int>(count);
 }
 
-std::optional<TransactionPresentation> expanded(const Transaction& transaction,
+std::optional<TransactionPresentation> expanded(TransactionPresentation transaction,
                                                 std::span<const MonthSlot> slots,
                                                 const Calendar& calendar) {
-    const std::optional<RecurringType> type = recurringType(transaction.recurringType());
-    if (type == RecurringType::monthly)
-        return monthly(transaction, slots);
-    if (type == RecurringType::yearly)
-        return yearly(transaction, slots, calendar);
+    const std::optional<RecurringType> type = recurringType(transaction.recurringType);
+    if (type == RecurringType::monthly) {
+        const std::int32_t count = timesCounted(transaction, slots);
+        if (count == 0)
+            return std::nullopt;
+        transaction.amount = checkedMultiply(transaction.amount, count);
+        return transaction;
+    }
+    if (type == RecurringType::yearly && fallsYearly(transaction, slots, calendar))
+        return transaction;
     return std::nullopt;
+}
+
+bool isInFrame(const TransactionPresentation& transaction, const Period& period,
+               std::span<const MonthSlot> slots, const Calendar& calendar) {
+    if (transaction.isRecurring == true)
+        return expanded(transaction, slots, calendar).has_value();
+    return transaction.startDate >= period.start && transaction.startDate < period.end;
 }
 
 std::int32_t timesCounted(const TransactionPresentation& transaction,

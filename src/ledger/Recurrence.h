@@ -17,9 +17,14 @@ namespace kovamo {
 /// copy with the amount times the months in which it is active, a "yearly" one its plain copy when
 /// the month of its start, whatever the year, is `startMonth` of a slot and it has not ended by
 /// then. A missing date is a fatal error when the rule reaches it; so is a product beyond 32 bits.
-[[nodiscard]] std::optional<TransactionPresentation> expanded(const Transaction& transaction,
+[[nodiscard]] std::optional<TransactionPresentation> expanded(TransactionPresentation transaction,
                                                               std::span<const MonthSlot> slots,
                                                               const Calendar& calendar);
+
+/// Whether a time frame of the days `period` and the months `slots` has the transaction in it;
+/// fails as expanded() does.
+[[nodiscard]] bool isInFrame(const TransactionPresentation& transaction, const Period& period,
+                             std::span<const MonthSlot> slots, const Calendar& calendar);
 
 /// How many times a transaction is counted in the months `slots`: a "monthly" recurrence once for
 /// each month in which it is active, anything else once. An expanded presentation's amount is its

@@ -41,7 +41,8 @@ void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
     const Calendar calendar;
     for (const Transaction* transaction :
          fetched(context, Predicate(QStringLiteral("isRecurring == YES"))))
-        if (const auto presentation = expanded(*transaction, slots, calendar)) {
+        if (const auto presentation =
+                expanded(TransactionPresentation(*transaction), slots, calendar)) {
             willAppend();
             list.append(*presentation);
         }

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "platform/foundation/Clock.h"
+#include "platform/objectstore/Value.h"
 
-#include <QString>
-#include <QUuid>
 #include <functional>
 #include <optional>
+#include <span>
+#include <vector>
 
 namespace kovamo {
 
@@ -30,10 +30,16 @@ struct TransactionPresentation {
     /// The copy of a record.
     explicit TransactionPresentation(const Transaction& transaction);
 
+    /// The copy of a record's values, in the entity's order.
+    explicit TransactionPresentation(std::span<const Value> values);
+
     friend bool operator==(const TransactionPresentation& a, const TransactionPresentation& b) {
         return a.id == b.id;
     }
 };
+
+/// The values of a record with the fields of `transaction`, in the entity's order.
+[[nodiscard]] std::vector<Value> valuesOf(const TransactionPresentation& transaction);
 
 } // namespace kovamo
 

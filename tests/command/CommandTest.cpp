@@ -54,7 +54,19 @@ TEST(Command, AnswersEachCall) {
         {"balance --store nowhere.sqlite", 1, "", "nowhere.sqlite: There is no store"},
         {"balance --store /dev/null", 1, "", "There is no store"},
         {"balance --help", 0, "Usage: kovamo balance [options]\n"},
-        {"list --frame 12", 0, "+ $1,200  🙂  title\n        - $360  🙂  title\n"},
+        {"list --frame 12", 0,
+         "2001-01-05  + $1,200  🙂 title (monthly)\n2001-01-05    - $360  🙂 title "
+         "(monthly)\n"},
+        {"list --frame 12 --format json", 0, "\"amount\":1200,"},
+        {"list --format csv", 0, ",30,spending,monthly,"},
+        {"export --frame 12", 0, ",100,earning,monthly,"},
+        {"export -", 0, ",7,earning,,"},
+        {"export /dev/full", 1, "", "/dev/full cannot be written: No space left on device"},
+        {"export --format xml", 2, "", "The format is csv, json or ledger"},
+        {"import nowhere.csv", 1, "", "nowhere.csv cannot be read: No such file"},
+        {"import --dry-run", 1, "", "Standard input:1: The file is empty"},
+        {"import --columns day=Tag", 2, "", "not \"day=Tag\""},
+        {"restore", 2, "", "COPY is missing"},
         {"--help", 0, "kovamo balance   "},
     };
     for (const auto& call : calls) {
@@ -65,6 +77,38 @@ TEST(Command, AnswersEachCall) {
         EXPECT_EQ(run.errors.isEmpty(), call.status == 0) << call.words << run.errors.data();
     }
     EXPECT_EQ(filesBeside(path), before) << "they only read";
+}
+
+TEST(Import, TakesInWhatWasExportedAndNothingOfABadFile) {
+    const Book book({{100}, {30, "2001-01-05", "monthly", "2100-01-05", false}});
+    const QString folder = World::folder();
+    const QString other = QStringLiteral("--store ") + folder + u"/other/store.sqlite";
+    for (const char* format : {"csv", "json"}) {
+        const QString file = folder + u"/records." + QLatin1String(format);
+        EXPECT_EQ(Ended(QStringLiteral("export ") + file).exitCode(), 0);
+        const Ended printed(u"export --format " + QLatin1String(format));
+        EXPECT_EQ(printed.output, content(file));
+        EXPECT_EQ(Ended(u"import --dry-run " + other, content(file)).output.left(5),
+                  QByteArray(format) == "csv" ? "2 new" : "0 new");
+        const Ended import(u"import " + other, content(file));
+        EXPECT_EQ(import.exitCode(), 0) << import.errors.data();
+        EXPECT_EQ(Ended(u"export " + other + u" --format " + QLatin1String(format)).output,
+                  content(file));
+    }
+    const QByteArray good = Ended(QStringLiteral("export")).output;
+    const QByteArray newer =
+        QByteArray(good).replace(",100,", ",101,").replace(",,,,", ",,,2030-01-01,");
+    const QByteArray bad = newer + "1,2\r\n";
+    const auto before = filesBeside(book.container.storePath());
+    const Ended refused(QStringLiteral("import"), bad);
+    EXPECT_EQ(refused.exitCode(), 1);
+    EXPECT_TRUE(refused.errors.startsWith("Standard input:4: ")) << refused.errors.data();
+    EXPECT_TRUE(refused.errors.contains("Nothing was imported"));
+    EXPECT_EQ(Ended(QStringLiteral("export")).output, good);
+    const Ended skipped(QStringLiteral("import --skip-bad"), bad);
+    EXPECT_EQ(skipped.exitCode(), 0);
+    EXPECT_TRUE(skipped.output.contains("1 that cannot be read")) << skipped.output.data();
+    EXPECT_TRUE(Ended(QStringLiteral("export")).output.contains(",101,"));
 }
 
 TEST(Check, NamesEachRecordThatAScreenCannotShow) {
