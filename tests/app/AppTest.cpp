@@ -75,6 +75,14 @@ class Visit {
                    !item->property("truncated").toBool();
         });
     }
+    /// A property of the topmost visible item of a QML type; of a type without one, NaN.
+    [[nodiscard]] double measure(const char* type, const char* property) const {
+        const QQuickItem* found = findItem(*m_window, [&](const QQuickItem& item) {
+            return item.isVisible() && QByteArray(item.metaObject()->className()).startsWith(type);
+        });
+        return found ? found->property(property).toDouble() : std::nan("");
+    }
+    void setReducedMotion(bool reduced) { m_window->setProperty("reducedMotion", reduced); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(m_window, key, modifiers);
     }
@@ -118,6 +126,24 @@ TEST_F(App, LeadsFromAFreshStartToTheFirstTransaction) {
     }
     Visit again(book);
     EXPECT_TRUE(again.shows("Your Kovamo is negative 💔")) << "the onboarding is over for good";
+}
+
+TEST_F(App, HasTheMeasuresOfItsDesign) {
+    Book book({{50}});
+    Visit visit(book);
+    EXPECT_TRUE(visit.shows("+ $50"));
+    visit.setReducedMotion(false);
+    const std::tuple<const char*, const char*, double> measures[] = {
+        {"Banner_QML", "height", 100 + 2 * 16}, {"RollingNumber", "duration", 250},
+        {"kovamo::ViewItem", "x", 16},          {"TransactionChart_QML", "chartHeight", 240},
+        {"TimeFramePicker_QML", "height", 51},
+    };
+    for (const auto& [type, property, value] : measures)
+        EXPECT_EQ(visit.measure(type, property), value) << type << ", " << property;
+    visit.setReducedMotion(true);
+    visit.click("Add Item", "Records a new transaction");
+    EXPECT_TRUE(visit.shows("New Transaction"));
+    EXPECT_EQ(visit.measure("FormSection_QML", "radius"), 10);
 }
 
 TEST_F(App, ChangesTheTimeFrame) {

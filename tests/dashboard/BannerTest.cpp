@@ -1,4 +1,5 @@
 #include "dashboard/Banner.h"
+#include "platform/views/Raster.h"
 #include "support/Book.h"
 
 namespace kovamo {
@@ -20,6 +21,13 @@ TEST(Banner, PutsTheCurrencyWhereTheLocaleDoes) {
         EXPECT_EQ(testing::internal::GetCapturedStdout(), std::string(locale, 5) + "\n");
         EXPECT_EQ(banner.numberText(), number) << locale;
     }
+}
+
+TEST(Banner, HasACardWithCornersOf20Points) {
+    Book book({{1}});
+    const QImage card = raster(Banner(book.context, 1).card(), {200, 100});
+    EXPECT_FALSE(isPainted(card, {0, 0, 4, 4}));
+    EXPECT_TRUE(isPainted(card, {8, 8, 1, 1}) && isPainted(card, {22, 0, 1, 1}));
 }
 
 } // namespace

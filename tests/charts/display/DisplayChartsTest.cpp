@@ -63,22 +63,14 @@ TEST(MultiLineCharts, ReadOutTheNearerOfTheirSeries) {
     expectReading(chart, {100, 10}, "In Feb, 100", SystemColor::green);
     expectReading(chart, {100, 85}, "Out Feb, 20", SystemColor::red);
     expectReading(chart, {190, 110}, "In Mar, 100", SystemColor::green);
-    const LegendEntry entry = chart.legend().at(1);
-    EXPECT_EQ(entry.label, "Out");
-    expectColor(raster(entry.swatch(), {10, 10}).pixelColor(5, 5), light(SystemColor::red));
 }
 
 TEST(BarCharts, ReadOutTheBarBesideTheFinger) {
-    BarChartView chart{{}, {"Balance", {50, 100}, blue}, {"Jan", "Feb"}, 4};
+    const BarChartView chart{{}, {"Balance", {50, 100}, blue}, {"Jan", "Feb"}, 4};
     EXPECT_EQ(read(chart, {0, 10}), "Jan, 50");
     EXPECT_EQ(read(chart, {0, 500}), "Feb, 100");
     expectColor(colorAtReading(chart, {0, 10}, {-1, 0}), light(SystemColor::blue), "inside");
     expectColor(colorAtReading(chart, {0, 10}, {1, 0}), Qt::white, "past the end");
-    chart.series.values = {50, -100, nan};
-    EXPECT_EQ(read(chart, {0, 60}), "Feb, -100");
-    expectColor(colorAtReading(chart, {0, 60}, {1, 0}), light(SystemColor::blue), "inside");
-    expectColor(colorAtReading(chart, {0, 60}, {-1, 0}), Qt::white, "past the end");
-    EXPECT_EQ(read(chart, {0, 110}), "nothing");
 }
 
 TEST(PieCharts, GiveEachSliceItsShareFromTheTopClockwise) {

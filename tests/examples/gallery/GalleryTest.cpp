@@ -1,10 +1,6 @@
 #include "examples/gallery/Gallery.h"
 
 #include "platform/views/Raster.h"
-#include "support/Hand.h"
-
-#include <QQmlApplicationEngine>
-#include <QTest>
 
 namespace kovamo {
 namespace {
@@ -37,46 +33,6 @@ TEST(Exhibits, ShowSomethingAndFollowTheirSliders) {
             parameter->setValue(value);
         }
     }
-}
-
-TEST(TheGallerysWindow, MagnifiesUnderTheFingerAndChangesTheAppearance) {
-    QQmlApplicationEngine engine;
-    engine.addImportPath(QStringLiteral("qrc:/qt/qml"));
-    failOnWarnings(engine);
-    engine.load(QUrl(QStringLiteral("qrc:/qt/qml/Kovamo/Gallery/GalleryWindow.qml")));
-    ASSERT_EQ(engine.rootObjects().size(), 1);
-    auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().constFirst());
-    window->resize(800, 8000);
-    QCoreApplication::processEvents();
-    window->grabWindow();
-
-    const QQuickItem* magnifier = nullptr;
-    (void)findItem(*window, [&](const QQuickItem& item) {
-        if (QByteArray(item.metaObject()->className()).startsWith("ChartMagnifier") &&
-            item.parentItem()->isVisible())
-            magnifier = &item;
-        return false; // the first of the list is the last that is asked
-    });
-    ASSERT_TRUE(magnifier);
-    const auto place = [&](double x) {
-        return magnifier->parentItem()->mapToScene({x, 90}).toPoint();
-    };
-    const auto reading = [&] { return magnifier->property("reading").value<MagnifiedReading>(); };
-    QTest::mousePress(window, Qt::LeftButton, {}, place(10));
-    EXPECT_TRUE(magnifier->isVisible());
-    EXPECT_EQ(magnifier->x(), 0) << "kept inside of the plot";
-    const QString first = reading().text;
-    QTest::mouseMove(window, place(200));
-    EXPECT_NE(reading().text, first);
-    EXPECT_NEAR(magnifier->x() + magnifier->width() / 2, reading().position.x(), 0.5);
-    QTest::mouseRelease(window, Qt::LeftButton, {}, place(200));
-    EXPECT_FALSE(magnifier->isVisible());
-
-    const QPoint appearance(window->width() - 30, 38);
-    expectColor(window->grabWindow().pixelColor(4, 4), light(SystemColor::groupedBackground));
-    QTest::mouseClick(window, Qt::LeftButton, {}, appearance);
-    expectColor(window->grabWindow().pixelColor(4, 4), Qt::black, "dark");
-    QTest::mouseClick(window, Qt::LeftButton, {}, appearance);
 }
 
 } // namespace
