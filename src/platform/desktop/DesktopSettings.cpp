@@ -1,6 +1,6 @@
 #include "DesktopSettings.h"
 
-#include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -34,12 +34,14 @@ QVariant unwrapped(QVariant value) {
 
 } // namespace
 
-DesktopSettings::DesktopSettings(bool followsAppearance) : m_followsAppearance(followsAppearance) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected())
+DesktopSettings::DesktopSettings(bool followsAppearance, const QDBusConnection& bus)
+    : m_bus(bus), m_followsAppearance(followsAppearance) {
+    if (!m_bus.isConnected())
         return;
-    bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
-                SLOT(take(QString, QString, QDBusVariant)));
+    if (!m_bus.connect(service, path, interface, QStringLiteral("SettingChanged"), this,
+                       SLOT(hear(QDBusMessage))))
+        qWarning("The desktop's settings are not followed: %s",
+                 qPrintable(m_bus.lastError().message()));
     ask(appearance, colorScheme);
     ask(desktop, animations);
     ask(desktop, textScaling);
@@ -49,18 +51,23 @@ void DesktopSettings::ask(const QString& group, const QString& key) {
     QDBusMessage call =
         QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Read"));
     call << group << key;
-    auto* watcher =
-        new QDBusPendingCallWatcher(QDBusConnection::sessionBus().asyncCall(call), this);
+    auto* watcher = new QDBusPendingCallWatcher(m_bus.asyncCall(call), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, group, key, watcher] {
         const QDBusPendingReply<QDBusVariant> reply = *watcher;
         if (reply.isValid())
-            take(group, key, reply.value());
+            take(group, key, QVariant::fromValue(reply.value()));
         watcher->deleteLater();
     });
 }
 
-void DesktopSettings::take(const QString& group, const QString& key, const QDBusVariant& value) {
-    const QVariant setting = unwrapped(QVariant::fromValue(value));
+void DesktopSettings::hear(const QDBusMessage& change) {
+    const QVariantList values = change.arguments();
+    if (change.signature() == u"ssv")
+        take(values[0].toString(), values[1].toString(), values[2]);
+}
+
+void DesktopSettings::take(const QString& group, const QString& key, const QVariant& value) {
+    const QVariant setting = unwrapped(value);
     if (group == appearance && key == colorScheme && m_followsAppearance)
         SystemColors::shared().setColorScheme(setting.toUInt() == preferDark ? ColorScheme::dark
                                                                              : ColorScheme::light);

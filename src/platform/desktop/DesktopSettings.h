@@ -2,9 +2,12 @@
 
 #include "SystemColors.h"
 
-#include <QDBusVariant>
+#include <QDBusConnection>
 #include <QObject>
 #include <QString>
+#include <QVariant>
+
+class QDBusMessage;
 
 namespace kovamo {
 
@@ -18,9 +21,10 @@ class DesktopSettings : public QObject {
     Q_PROPERTY(double textScale READ textScale NOTIFY textScaleChanged)
 
   public:
-    /// Puts the desktop's appearance into the palette, unless `followsAppearance` is false. Asks
-    /// without waiting: the answers come in the event loop.
-    explicit DesktopSettings(bool followsAppearance);
+    /// Puts the desktop's appearance into the palette, unless `followsAppearance` is false. Asks on
+    /// `bus` without waiting: the answers come in the event loop.
+    explicit DesktopSettings(bool followsAppearance,
+                             const QDBusConnection& bus = QDBusConnection::sessionBus());
 
     [[nodiscard]] bool reducedMotion() const { return m_reducedMotion; }
     [[nodiscard]] double textScale() const { return m_textScale; }
@@ -30,11 +34,13 @@ class DesktopSettings : public QObject {
     void textScaleChanged();
 
   private Q_SLOTS:
-    void take(const QString& group, const QString& key, const QDBusVariant& value);
+    void hear(const QDBusMessage& change);
 
   private:
+    void take(const QString& group, const QString& key, const QVariant& value);
     void ask(const QString& group, const QString& key);
 
+    QDBusConnection m_bus;
     bool m_followsAppearance;
     bool m_reducedMotion = false;
     double m_textScale = 1;
