@@ -7,6 +7,7 @@
 #include "SoleInstance.h"
 #include "command/CommandLine.h"
 #include "platform/desktop/DesktopSettings.h"
+#include "platform/desktop/OnScreenKeyboard.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QGuiApplication>
@@ -102,6 +103,9 @@ int show(const Options& options) {
         QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
                          [&] { raise(window); });
     follow(desktop, window);
+    std::optional<OnScreenKeyboard> keyboard;
+    if (OnScreenKeyboard::isCalledByApp())
+        keyboard.emplace();
     return QGuiApplication::exec();
 }
 

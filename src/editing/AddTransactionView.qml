@@ -30,6 +30,7 @@ GroupedForm {
     FormSection {
         FormTextField {
             focus: true
+            next: titleField
             placeholder: qsTr("Emoji")
             text: form.transaction.emoji
 
@@ -43,6 +44,9 @@ GroupedForm {
             onEdited: text => form.transaction.emoji = text
         }
         FormTextField {
+            id: titleField
+
+            next: amountField
             placeholder: qsTr("Title")
             text: form.transaction.title
 
@@ -55,6 +59,8 @@ GroupedForm {
             onPicked: label => form.transaction.selectedPositive = label
         }
         FormTextField {
+            id: amountField
+
             numeric: true
             placeholder: qsTr("Amount")
             text: form.transaction.amount

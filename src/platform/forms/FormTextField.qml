@@ -13,6 +13,8 @@ FormRow {
     property string placeholder
     /*! True asks for the keypad of digits. What may be typed is the owner's to say. */
     property bool numeric: false
+    /*! The field that Return leads to; after the last one it closes the on-screen keyboard. */
+    property Item next: null
     /*! What stands at the trailing end, before the button that clears. */
     property alias trailing: slot.data
 
@@ -26,6 +28,14 @@ FormRow {
         const behind = input.length - input.cursorPosition;
         input.text = field.text;
         input.cursorPosition = Math.max(0, input.length - behind);
+    }
+
+    /*! Leaves the text: without a field that has the focus, there is no keyboard on the screen. */
+    function leave() {
+        if (field.next)
+            field.next.forceActiveFocus(Qt.TabFocusReason);
+        else
+            input.focus = false;
     }
 
     contentHeight: input.implicitHeight
@@ -43,6 +53,7 @@ FormRow {
         readonly property int halfCaret: 1
 
         Accessible.name: field.placeholder
+        EnterKey.type: field.next ? Qt.EnterKeyNext : Qt.EnterKeyDone
         anchors.left: parent.left
         anchors.leftMargin: -halfCaret
         anchors.right: accessories.left
@@ -92,6 +103,7 @@ FormRow {
             }
         }
 
+        onAccepted: field.leave()
         onTextEdited: {
             field.edited(input.text);
             field.follow();

@@ -1,0 +1,70 @@
+#include "OnScreenKeyboard.h"
+
+#include <QDBusMessage>
+#include <QGuiApplication>
+#include <QInputMethodQueryEvent>
+#include <QLibraryInfo>
+#include <QTimer>
+
+namespace kovamo {
+
+namespace {
+
+/// The first Qt that speaks version 3 of Wayland's text-input protocol, the one that phones' shells
+/// offer.
+const QVersionNumber firstWithTextInput(6, 7);
+
+bool takesText(QObject* object) {
+    if (!object)
+        return false;
+    QInputMethodQueryEvent query(Qt::ImEnabled);
+    QGuiApplication::sendEvent(object, &query);
+    return query.value(Qt::ImEnabled).toBool();
+}
+
+} // namespace
+
+bool OnScreenKeyboard::isCalledByApp() {
+    return QGuiApplication::platformName().startsWith(u"wayland") &&
+           QLibraryInfo::version() < firstWithTextInput &&
+           qEnvironmentVariableIsEmpty("QT_IM_MODULE");
+}
+
+OnScreenKeyboard::OnScreenKeyboard(const QDBusConnection& bus) : m_bus(bus) {
+    connect(qGuiApp, &QGuiApplication::focusObjectChanged, this, &OnScreenKeyboard::watch);
+    watch(QGuiApplication::focusObject());
+}
+
+void OnScreenKeyboard::watch(QObject* focused) {
+    if (m_field)
+        m_field->removeEventFilter(this);
+    m_field = takesText(focused) ? focused : nullptr;
+    if (m_field)
+        m_field->installEventFilter(this);
+    // From one field to the next the focus is nowhere for a moment.
+    QTimer::singleShot(0, this, &OnScreenKeyboard::followFocus);
+}
+
+void OnScreenKeyboard::followFocus() {
+    if (m_visible != !m_field.isNull())
+        setVisible(m_field);
+}
+
+void OnScreenKeyboard::setVisible(bool visible) {
+    m_visible = visible;
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        QStringLiteral("sm.puri.OSK0"), QStringLiteral("/sm/puri/OSK0"),
+        QStringLiteral("sm.puri.OSK0"), QStringLiteral("SetVisible"));
+    call.setAutoStartService(false);
+    call << visible;
+    m_bus.send(call);
+}
+
+bool OnScreenKeyboard::eventFilter(QObject*, QEvent* event) {
+    // The user may have sent the keyboard away, and taps the field to have it back.
+    if (event->type() == QEvent::MouseButtonRelease)
+        setVisible(true);
+    return false;
+}
+
+} // namespace kovamo
