@@ -13,6 +13,12 @@ Item {
     /*! Rows are made once all above them has its height. */
     property bool isComplete: false
 
+    /*! Whether the balance and the chart leave no room for a few rows: then the balance scrolls away
+        with them. */
+    readonly property bool isShort: height < topHeight + (list.headerItem?.height ?? 0) + 2 * Metrics.rowHeight
+    /*! The height of the balance and of what parts it from the list. */
+    readonly property real topHeight: banner.height + divider.height
+
     Component.onCompleted: isComplete = true
 
     Banner {
@@ -20,6 +26,7 @@ Item {
 
         balance: period.content.banner
         width: period.width
+        y: period.isShort ? list.originY - list.topMargin - list.contentY : 0
     }
     Divider {
         id: divider
@@ -30,10 +37,16 @@ Item {
     RowList {
         id: list
 
+        function showTop() {
+            positionViewAtBeginning();
+            contentY -= topMargin;
+        }
+
         Accessible.name: qsTr("Transactions of the time frame")
         anchors.bottom: parent.bottom
-        anchors.top: divider.bottom
+        anchors.top: period.isShort ? parent.top : divider.bottom
         model: period.isComplete ? period.content.filteredList : null
+        topMargin: period.isShort ? period.topHeight : 0
         width: period.width
 
         delegate: FilteredListRow {
@@ -44,7 +57,9 @@ Item {
             width: list.width
 
             // A header that grows would stay above the visible part of the list.
-            onHeightChanged: list.positionViewAtBeginning()
+            onHeightChanged: list.showTop()
         }
+
+        onTopMarginChanged: showTop()
     }
 }
