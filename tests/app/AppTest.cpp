@@ -53,6 +53,17 @@ class Visit {
         click(field);
         type(text);
     }
+    /// Return leads to the next field, and out of the last one.
+    void writeNext(const QString& text) {
+        press(Qt::Key_Return);
+        type(text);
+    }
+    void drag(QPoint from, QPoint by) { kovamo::drag(*m_window, from, by); }
+    void resize(QSize size) { m_window->resize(size); }
+    /// Whether a text comes to stand above or below the middle of the window's bar.
+    [[nodiscard]] bool isInSight(const QString& text, bool expected) const {
+        return soon([&] { return (middle(shown(*m_window, text)).y() > 22) == expected; });
+    }
     /// Shows text twice as large as usual in a window of a width.
     void enlargeText(int width) {
         m_window->setProperty("textScale", 2);
@@ -111,9 +122,10 @@ TEST_F(App, LeadsFromAFreshStartToTheFirstTransaction) {
         visit.click("🙄 create a transaction");
         EXPECT_TRUE(visit.shows("New Transaction"));
         visit.write("Emoji", "☕");
-        visit.write("Title", "<b>Coffee</b>");
+        visit.writeNext("<b>Coffee</b>");
         EXPECT_FALSE(visit.isEnabled("Save"));
-        visit.write("Amount", "1,2a5");
+        visit.writeNext("1,2a5");
+        visit.writeNext("9");
         visit.click("Spending");
         EXPECT_TRUE(visit.isEnabled("Save"));
         visit.click("Save");
@@ -165,6 +177,17 @@ TEST_F(App, ChangesTheTimeFrame) {
     EXPECT_TRUE(visit.focusComesToBeSeen()) << "it went with the chart";
 }
 
+TEST_F(App, LetsTheBalanceScrollAwayOnAShortScreen) {
+    Book book({{1}, {2}, {3}, {4}, {5}, {6}, {7}, {8}, {9}, {10}, {11}, {12}});
+    Visit visit(book);
+    for (const QSize size : {QSize(390, 844), QSize(720, 360), QSize(360, 720), QSize(320, 480)}) {
+        visit.resize(size);
+        EXPECT_TRUE(visit.isInSight("Your Kovamo is positive 👍", true)) << "at first, in all";
+        visit.drag({100, size.height() - 60}, {0, 150 - size.height()});
+        EXPECT_TRUE(visit.isInSight("Your Kovamo is positive 👍", size.height() > 480));
+    }
+}
+
 TEST_F(App, ShowsTheMonthToWhichTheUserComesBack) {
     Book book({{300}, {20, "2024-06-02"}});
     Visit visit(book);
@@ -196,7 +219,10 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
 
     visit.click("title!, earning, $300");
     visit.write("Title", "?");
-    visit.press(Qt::Key_Escape);
+    visit.drag({5, 400}, {100, 0});
+    EXPECT_TRUE(visit.shows("Edit Transaction")) << "a short drag from the edge comes back";
+    visit.drag({5, 400}, {250, 0});
+    EXPECT_TRUE(visit.shows("Transactions"));
     EXPECT_EQ(record.title(), QStringLiteral("title!")) << "leaving the form keeps nothing";
 
     World::setTime("2024-05-17 10:00");

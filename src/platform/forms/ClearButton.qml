@@ -4,8 +4,6 @@ import Kovamo.Desktop
 
 /*! Empties the field it stands in, which keeps the focus. */
 Pressable {
-    implicitHeight: 28
-    implicitWidth: 32
     takesFocus: false
     text: qsTr("Clear")
 

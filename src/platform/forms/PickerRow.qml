@@ -10,7 +10,7 @@ FormRow {
     /*! The user chose `label`. */
     signal picked(string label)
 
-    contentHeight: control.implicitHeight
+    contentHeight: control.trackHeight
 
     SegmentedControl {
         id: control

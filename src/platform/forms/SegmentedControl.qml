@@ -12,6 +12,8 @@ Focusable {
     /*! The label that is chosen. */
     property string selected
     readonly property int inset: 2
+    /*! The height of what is drawn; what is touched is a row's. */
+    readonly property real trackHeight: Math.max(32, sizer.height + Metrics.step * 3)
     readonly property int index: labels.indexOf(selected)
 
     /*! The user chose `label`. */
@@ -29,13 +31,17 @@ Focusable {
     Keys.onLeftPressed: control.step(-1)
     Keys.onRightPressed: control.step(1)
     activeFocusOnTab: true
-    implicitHeight: Math.max(32, sizer.height + Metrics.step * 3)
+    implicitHeight: Math.max(Metrics.rowHeight, trackHeight)
     implicitWidth: Math.max(200, labels.length * 100)
 
     Rectangle {
-        anchors.fill: parent
+        id: track
+
+        anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.fill
+        height: control.trackHeight
         radius: 9
+        width: parent.width
     }
     Rectangle {
         id: thumb
@@ -45,12 +51,12 @@ Focusable {
         border.color: SystemColors.separator
         border.width: SystemColors.dark ? 0 : Metrics.hairline
         color: SystemColors.thumb
-        height: control.height - 2 * control.inset
+        height: track.height - 2 * control.inset
         radius: 7
         visible: control.index >= 0
         width: segments.cellWidth
         x: control.inset + place * segments.cellWidth
-        y: control.inset
+        y: track.y + control.inset
 
         Behavior on x  {
             enabled: thumb.visible && control.visible
@@ -64,11 +70,10 @@ Focusable {
     EqualRow {
         id: segments
 
-        height: control.height - 2 * control.inset
+        height: control.height
         model: control.labels
         width: control.width - 2 * control.inset
         x: control.inset
-        y: control.inset
 
         // A press on Text goes to the Flickable behind it, so the TapHandler lies on the segment.
         Item {
@@ -115,7 +120,8 @@ Focusable {
         font: TextStyles.subheadline
     }
     FocusRing {
-        visible: control.visualFocus
+        anchors.fill: track
         radius: 10
+        visible: control.visualFocus
     }
 }

@@ -11,6 +11,8 @@ FocusScope {
     readonly property alias depth: view.depth
     readonly property bool canGoBack: view.depth > 1
     readonly property int direction: LayoutMirroring.enabled ? -1 : 1
+    /*! Where the page below the one on top rests. */
+    readonly property real besideTop: -0.3 * direction * view.width
 
     /*! Shows a page made of `page`, its properties set from `properties`. */
     function push(page: Component, properties: var) {
@@ -20,6 +22,28 @@ FocusScope {
     /*! Goes back one page; false at the bottom, where nothing happens. */
     function pop(): bool {
         return stack.canGoBack && view.pop() !== null;
+    }
+
+    /*! Goes back one page. The back button disappears with its page: the focus must not stay in it. */
+    function goBack() {
+        if (stack.pop())
+            view.forceActiveFocus(Qt.BacktabFocusReason);
+    }
+
+    /*! Moves the page on top aside by `distance` points, and the one below it as far as it shows. */
+    function pullAside(distance: real) {
+        const below = view.get(view.depth - 2, T.StackView.ForceLoad) as Item;
+        below.visible = distance > 0;
+        below.x = stack.besideTop * (1 - distance / view.width);
+        view.currentItem.x = stack.direction * distance;
+    }
+
+    /*! The page that was pulled aside goes on at `velocity` points a second, or comes back. */
+    function release(velocity: real) {
+        if (edge.distance + velocity * 0.2 > view.width / 2)
+            stack.goBack();
+        else
+            wayBack.restart();
     }
 
     function titleOf(page: var): string {
@@ -36,9 +60,7 @@ FocusScope {
         title: stack.titleOf(view.currentItem)
         width: parent.width
 
-        // The back button disappears with its page: the focus must not stay in it.
-        onBack: if (stack.pop())
-            view.forceActiveFocus(Qt.BacktabFocusReason)
+        onBack: stack.goBack()
     }
     T.StackView {
         id: view
@@ -49,34 +71,55 @@ FocusScope {
         focus: true
         initialItem: stack.initialPage
 
-        popEnter: Slide {
-            from: -0.3 * stack.direction * view.width
+        popEnter: Transition {
+            Slide {
+                to: 0
+            }
         }
-        popExit: Slide {
-            to: stack.direction * view.width
+        popExit: Transition {
+            Slide {
+                to: stack.direction * view.width
+            }
         }
-        pushEnter: Slide {
-            from: stack.direction * view.width
+        pushEnter: Transition {
+            Slide {
+                from: stack.direction * view.width
+                to: 0
+            }
         }
-        pushExit: Slide {
-            to: -0.3 * stack.direction * view.width
+        pushExit: Transition {
+            Slide {
+                from: 0
+                to: stack.besideTop
+            }
         }
 
         onCurrentItemChanged: if (currentItem)
             currentItem.focus = true
     }
-    component Slide: Transition {
-        id: slide
+    EdgeDrag {
+        id: edge
 
-        property real from: 0
-        property real to: 0
+        anchors.bottom: parent.bottom
+        anchors.left: parent.left
+        anchors.top: view.top
+        direction: stack.direction
+        enabled: stack.canGoBack && !view.busy
 
-        NumberAnimation {
-            duration: Motion.duration(380)
-            easing.type: Easing.OutQuint
-            from: slide.from
-            property: "x"
-            to: slide.to
-        }
+        onDistanceChanged: if (enabled)
+            stack.pullAside(distance)
+        onReleased: velocity => stack.release(velocity)
+    }
+    Slide {
+        id: wayBack
+
+        property: "distance"
+        target: edge
+        to: 0
+    }
+    component Slide: NumberAnimation {
+        duration: Motion.duration(380)
+        easing.type: Easing.OutQuint
+        property: "x"
     }
 }

@@ -127,6 +127,8 @@ DeletableRow {
 
                 onLongPressed: row.showMenu(point.position.x, point.position.y)
                 onTapped: {
+                    // The press of a tap looks long where the app was busy meanwhile.
+                    menu.close();
                     row.forceActiveFocus(Qt.MouseFocusReason);
                     row.offset > 0 ? row.close() : row.clicked();
                 }
