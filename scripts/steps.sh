@@ -6,7 +6,8 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 # A package that releases of Debian call by different names stands with all of them, newest first.
 
 # What the app needs to run: the QML modules that its screens import, the plugins that open a
-# window on Wayland and read SVG pictures, and fonts for every script and for emoji.
+# window on Wayland and read SVG pictures, fonts for every script and for emoji, and the rules of
+# the time zones.
 run_packages=(
     fonts-noto-cjk
     fonts-noto-color-emoji
@@ -18,6 +19,7 @@ run_packages=(
     qml6-module-qtquick-window
     'qt6-svg-plugins|libqt6svg6'
     qt6-wayland
+    tzdata
 )
 
 build_packages=(
@@ -43,7 +45,6 @@ test_packages=(
     ledger
     libgtest-dev
     strace
-    'tzdata-legacy|tzdata'
     xvfb
 )
 

@@ -8,6 +8,7 @@
 #include "command/CommandLine.h"
 #include "platform/desktop/DesktopSettings.h"
 #include "platform/desktop/OnScreenKeyboard.h"
+#include "platform/foundation/Calendar.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QGuiApplication>
@@ -115,6 +116,7 @@ int main(int argc, char** argv) {
     // Nobody may read what is printed: a write then fails instead of ending the process.
     std::signal(SIGPIPE, SIG_IGN);
     KovamoApp::describe();
+    followHostTimeZone();
     const QStringList arguments = argumentsOf(argc, argv);
     if (const std::optional<int> status = runCommand(arguments))
         return *status;
