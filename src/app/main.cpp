@@ -8,7 +8,9 @@
 #include "command/CommandLine.h"
 #include "platform/desktop/DesktopSettings.h"
 #include "platform/desktop/OnScreenKeyboard.h"
+#include "platform/desktop/FatalNotification.h"
 #include "platform/foundation/Calendar.h"
+#include "platform/foundation/FatalError.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QGuiApplication>
@@ -91,6 +93,8 @@ int show(const Options& options) {
         instance.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     if (instance && instance->handedOver())
         return 0;
+    const PersistentContainer store(QStringLiteral("Kovamo"), Transaction::entity());
+    notifyOfFatalErrors(store.storePath());
     // Here the store is opened, or the process ends.
     const KovamoApp app{PersistenceController::shared()};
     if (options.isDemo) {
@@ -115,6 +119,7 @@ int show(const Options& options) {
 int main(int argc, char** argv) {
     // Nobody may read what is printed: a write then fails instead of ending the process.
     std::signal(SIGPIPE, SIG_IGN);
+    forbidCoreDumps();
     KovamoApp::describe();
     followHostTimeZone();
     const QStringList arguments = argumentsOf(argc, argv);

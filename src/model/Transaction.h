@@ -81,7 +81,9 @@ template<typename T>
 [[nodiscard]] T required(const std::optional<QUuid>& id, const std::optional<T>& value,
                          const char* attribute) {
     if (!value)
-        fatalError(QStringLiteral("The transaction %1 has no %2")
+        fatalError(QStringLiteral("The transaction %1 has no %2: another program has written it. "
+                                  "\"kovamo check\" names all such records, \"kovamo restore\" "
+                                  "goes back to a copy of the store.")
                        .arg(id ? id->toString(QUuid::WithoutBraces) : QStringLiteral("without id"),
                             QLatin1String(attribute)));
     return *value;

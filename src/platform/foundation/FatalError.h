@@ -4,8 +4,18 @@
 
 namespace kovamo {
 
-/// Stops the program: writes "Fatal error: " and `message` to standard error and aborts. For
-/// programming errors and for the failures that the system does not survive.
+/// Stops the program: writes "Fatal error: " and `message` to standard error, hands the message to
+/// the witness and aborts. For programming errors and for the failures that the system does not
+/// survive.
 [[noreturn]] void fatalError(const QString& message);
+
+/// Who else hears of a fatal error before the end. It has two seconds, and is not told of errors of
+/// its own.
+using FatalErrorWitness = void (*)(const QString& message);
+void setFatalErrorWitness(FatalErrorWitness witness);
+
+/// Keeps the system from writing the process's memory, and with it the user's records, to a file
+/// when the process dies.
+void forbidCoreDumps();
 
 } // namespace kovamo
