@@ -15,6 +15,7 @@ run_packages=(
     qml6-module-qtqml
     qml6-module-qtqml-workerscript
     qml6-module-qtquick
+    qml6-module-qtquick-dialogs
     qml6-module-qtquick-templates
     qml6-module-qtquick-window
     'qt6-svg-plugins|libqt6svg6'

@@ -18,7 +18,8 @@ FetchRequest largestFirst() {
 } // namespace
 
 TransactionsView::TransactionsView(ManagedObjectContext& viewContext)
-    : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext) {
+    : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext),
+      m_exchange(viewContext.storePath()) {
     viewContext.prepareToSave();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AddTransactionView.h"
+#include "ExchangeView.h"
 #include "platform/objectstore/LiveFetch.h"
 
 #include <QtQml/qqmlregistration.h>
@@ -15,6 +16,7 @@ class TransactionsView : public LiveFetch {
     QML_UNCREATABLE("Made by the main screen")
     /// The form of the transaction opened last.
     Q_PROPERTY(kovamo::AddTransactionView* form READ form NOTIFY formChanged)
+    Q_PROPERTY(kovamo::ExchangeView* exchange READ exchange CONSTANT)
 
   public:
     /// Of a row's TransactionLine.
@@ -24,6 +26,9 @@ class TransactionsView : public LiveFetch {
     explicit TransactionsView(ManagedObjectContext& viewContext);
 
     [[nodiscard]] AddTransactionView* form() const { return m_form.get(); }
+
+    /// How the records go out and come in.
+    [[nodiscard]] ExchangeView* exchange() { return &m_exchange; }
 
     /// Makes the form for the transaction at `row`; returns whether there is one.
     Q_INVOKABLE bool edit(int row);
@@ -42,6 +47,7 @@ class TransactionsView : public LiveFetch {
     [[nodiscard]] Transaction& transaction(int row) const;
 
     ManagedObjectContext& m_viewContext;
+    ExchangeView m_exchange;
     std::unique_ptr<AddTransactionView> m_form;
     // Kept until its page has slid off the screen, which still shows it.
     std::unique_ptr<AddTransactionView> m_formBefore;

@@ -19,6 +19,11 @@ NavigationStack {
                 });
     }
 
+    trailing: ExchangeButton {
+        exchange: screen.transactions.exchange
+        visible: !screen.canGoBack
+    }
+
     initialPage: RowList {
         id: list
 

@@ -80,6 +80,14 @@ Symbol trash() {
     return symbol;
 }
 
+Symbol sharing() {
+    Symbol symbol{
+        polyline({{8.5, 8.5}, {5, 8.5}, {5, 21}, {19, 21}, {19, 8.5}, {15.5, 8.5}}), {}, {}};
+    symbol.strokes.addPath(polyline({{12, 14.5}, {12, 2.5}}));
+    symbol.strokes.addPath(polyline({{8, 6.5}, {12, 2.5}, {16, 6.5}}));
+    return symbol;
+}
+
 Symbol smilingFace() {
     Symbol symbol{circle({12, 12}, 9.8), {}, {}};
     QPainterPath smile;
@@ -108,6 +116,8 @@ Symbol symbolNamed(const QString& name) {
         return trash();
     if (name == QLatin1String("face.smiling"))
         return smilingFace();
+    if (name == QLatin1String("square.and.arrow.up"))
+        return sharing();
     return {};
 }
 

@@ -26,6 +26,10 @@ ManagedObjectContext::ManagedObjectContext(Store& store, const EntityDescription
 
 ManagedObjectContext::~ManagedObjectContext() = default;
 
+const QString& ManagedObjectContext::storePath() const {
+    return m_store.path();
+}
+
 void ManagedObjectContext::requireEntity(const FetchRequest& request) const {
     if (request.entityName != m_entity.name)
         fatalError(QStringLiteral("There is no entity \"%1\"").arg(request.entityName));

@@ -37,6 +37,9 @@ class ManagedObjectContext : public QObject {
 
     [[nodiscard]] const EntityDescription& entity() const { return m_entity; }
 
+    /// Where the store lies.
+    [[nodiscard]] const QString& storePath() const;
+
     /// A new record of the kind that `T` stands for, pending until the next save. Throws StoreError
     /// when the store cannot be read.
     template<typename T>

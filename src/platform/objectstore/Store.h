@@ -32,6 +32,8 @@ class Store {
     ~Store();
     Q_DISABLE_COPY_MOVE(Store)
 
+    [[nodiscard]] const QString& path() const { return m_path; }
+
     /// The identities of the matching records, ordered by the sort descriptors, then by identity.
     [[nodiscard]] std::vector<ObjectID> select(const FetchRequest& request) const;
 

@@ -8,6 +8,8 @@ FocusScope {
 
     /*! The page at the bottom. */
     required property Component initialPage
+    /*! The buttons at the bar's trailing end. */
+    property alias trailing: bar.trailing
     readonly property alias depth: view.depth
     readonly property bool canGoBack: view.depth > 1
     readonly property int direction: LayoutMirroring.enabled ? -1 : 1

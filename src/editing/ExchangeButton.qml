@@ -1,0 +1,66 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Desktop
+import Kovamo.Editing
+
+// Sheet creates its content in another file, which ComponentBehavior: Bound does not allow.
+// qmllint disable unqualified
+
+/*! The button of a bar by which records go out, come in and come back. */
+BarButton {
+    id: button
+
+    required property ExchangeState exchange
+
+    Accessible.role: Accessible.ButtonMenu
+    description: qsTr("Exports, imports, and goes back to a copy")
+    symbol: "square.and.arrow.up"
+    text: qsTr("Share")
+
+    onClicked: menu.popup(button, LayoutMirroring.enabled ? 0 : button.width - menu.width, button.height)
+
+    ContextMenu {
+        id: menu
+
+        MenuItem {
+            text: qsTr("Export…")
+
+            onTriggered: chooser.save(qsTr("Export"), button.exchange.suggestedName())
+        }
+        MenuItem {
+            text: qsTr("Import…")
+
+            onTriggered: chooser.open(qsTr("Import"))
+        }
+        MenuItem {
+            text: qsTr("Go Back to a Copy…")
+
+            onTriggered: button.exchange.showCopies()
+        }
+    }
+    FileChooser {
+        id: chooser
+
+        onOpened: path => button.exchange.importFrom(path)
+        onSaved: path => button.exchange.exportTo(path)
+        onUnavailable: (saves, title, name) => toolkitDialog.setSource(Qt.resolvedUrl("ToolkitFileDialog.qml"), {
+                    "chooser": chooser,
+                    "saves": saves,
+                    "suggestedName": name,
+                    "title": title
+                })
+    }
+    Loader {
+        id: toolkitDialog
+    }
+    Sheet {
+        presented: button.exchange.isPresented
+        title: button.exchange.title
+
+        onDismissed: button.exchange.dismiss()
+
+        ExchangeView {
+            exchange: button.exchange
+        }
+    }
+}

@@ -1,0 +1,237 @@
+#include "ExchangeView.h"
+
+#include "exchange/Export.h"
+#include "exchange/Import.h"
+#include "model/Transaction.h"
+#include "platform/foundation/Calendar.h"
+#include "platform/foundation/Formatters.h"
+#include "platform/objectstore/Store.h"
+#include "platform/objectstore/file/KeptCopies.h"
+#include "platform/objectstore/file/StoreError.h"
+
+#include <QDate>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <utility>
+
+namespace kovamo {
+
+namespace {
+
+QString counted(const QString& what, qint64 count) {
+    return what + u": " + numberText(count);
+}
+
+/// How many records a store holds; nothing for a file that is none.
+std::optional<qint64> countOf(const QString& storePath) {
+    try {
+        Store store(storePath, Transaction::entity(), Store::Access::read);
+        return qint64(store.count(Transaction::fetchRequest()));
+    } catch (const StoreError&) {
+        return std::nullopt;
+    }
+}
+
+/// The day in a copy's name as the user writes days.
+QString dayOf(const QString& name) {
+    const QDate date = QDate::fromString(name.right(10), Qt::ISODate);
+    if (!date.isValid())
+        return name;
+    constexpr int noon = 12;
+    return localizedDateText(Instant(std::chrono::milliseconds(
+                                 date.startOfDay().addSecs(noon * 3600).toMSecsSinceEpoch())),
+                             QStringLiteral("yMMMMd"));
+}
+
+ImportOptions optionsFor(const QString& path, const std::atomic<bool>& isStopped) {
+    ImportOptions options;
+    options.format = formatOfFile(path).value_or(ExchangeFormat::csv);
+    options.progress = [&isStopped](qint64) { return !isStopped; };
+    return options;
+}
+
+} // namespace
+
+ExchangeView::ExchangeView(QString storePath, QObject* parent)
+    : QObject(parent), m_storePath(std::move(storePath)) {}
+
+ExchangeView::~ExchangeView() {
+    stop();
+}
+
+QString ExchangeView::suggestedName() {
+    return u"Kovamo " + dayText(Clock::now()) + u".csv";
+}
+
+void ExchangeView::stop() {
+    ++m_run;
+    m_isStopped = true;
+    if (m_worker)
+        m_worker->wait();
+    m_worker.reset();
+    m_isStopped = false;
+}
+
+void ExchangeView::show(Page page) {
+    m_page = std::move(page);
+    m_isPresented = true;
+    Q_EMIT changed();
+}
+
+void ExchangeView::run(const QString& title, const std::function<Page()>& work) {
+    stop();
+    show({.title = title, .lines = {tr("One moment…")}});
+    m_worker.reset(QThread::create([this, title, work, number = m_run] {
+        Page page;
+        try {
+            page = work();
+        } catch (const StoreError& error) {
+            page = {.title = title, .lines = {error.description()}};
+        }
+        // Queued calls go with the object, should it go first.
+        QMetaObject::invokeMethod(
+            this,
+            [this, number, page = std::move(page)] {
+                if (number != m_run)
+                    return; // dismissed meanwhile
+                stop();
+                show(page);
+            },
+            Qt::QueuedConnection);
+    }));
+    m_worker->start();
+    Q_EMIT changed();
+}
+
+void ExchangeView::exportTo(const QString& path) {
+    run(tr("Export"), [this, path]() -> Page {
+        const auto format = formatOfFile(path).value_or(ExchangeFormat::csv);
+        Store store(m_storePath, Transaction::entity(), Store::Access::read);
+        QSaveFile file(path);
+        const auto count =
+            file.open(QSaveFile::WriteOnly)
+                ? exportRecords(store,
+                                format == ExchangeFormat::json ? format : ExchangeFormat::csv, file,
+                                [this](auto) { return !m_isStopped.load(); })
+                : std::nullopt;
+        if (m_isStopped)
+            return {};
+        if (!count || !file.commit())
+            return {.title = tr("Export"), .lines = {path, file.errorString()}};
+        return {.title = tr("Exported"),
+                .lines = {counted(tr("Transactions"), *count), QFileInfo(path).fileName()}};
+    });
+}
+
+ExchangeView::Page ExchangeView::planPage(const QString& path) {
+    Page page{.title = tr("Import"), .lines = {QFileInfo(path).fileName()}};
+    QFile file(path);
+    if (!file.open(QFile::ReadOnly)) {
+        page.lines.append(file.errorString());
+        return page;
+    }
+    ImportOptions options = optionsFor(path, m_isStopped);
+    options.skipBad = true;
+    Store store(m_storePath, Transaction::entity(), Store::Access::read);
+    const ImportReport plan = planImport(store, file, options);
+    if (!plan.isRefused) {
+        page.lines.append(counted(tr("New"), plan.added));
+        page.lines.append(counted(tr("Changed"), plan.changed));
+        page.lines.append(counted(tr("Already here"), plan.same + plan.older));
+    }
+    if (plan.conflictCount > 0)
+        page.lines.append(
+            counted(tr("Differing, as old as yours, which stay"), plan.conflictCount));
+    if (plan.rounded > 0)
+        page.lines.append(counted(tr("Amounts to be rounded"), plan.rounded));
+    if (plan.faultCount > 0)
+        page.lines.append(counted(tr("Lines that cannot be read"), plan.faultCount));
+    for (const LineFault& fault : plan.faults)
+        page.lines.append(tr("Line %1: %2").arg(numberText(fault.line), fault.text));
+    if (!plan.isRefused && plan.added + plan.changed > 0) {
+        page.action = tr("Import");
+        page.next = {[this, path] { import(path); }};
+    }
+    return page;
+}
+
+void ExchangeView::importFrom(const QString& path) {
+    run(tr("Import"), [this, path] { return planPage(path); });
+}
+
+void ExchangeView::import(const QString& path) {
+    run(tr("Import"), [this, path]() -> Page {
+        QFile file(path);
+        if (!file.open(QFile::ReadOnly))
+            return {.title = tr("Import"), .lines = {file.errorString()}};
+        ImportOptions options = optionsFor(path, m_isStopped);
+        options.skipBad = true;
+        Store store(m_storePath, Transaction::entity());
+        const ImportReport report = importRecords(store, file, options);
+        if (report.isRefused)
+            return {.title = tr("Import"), .lines = {tr("Nothing came in.")}};
+        return {
+            .title = tr("Imported"),
+            .lines = {counted(tr("New"), report.added), counted(tr("Changed"), report.changed)}};
+    });
+}
+
+ExchangeView::Page ExchangeView::copiesPage() {
+    Page page{.title = tr("Go Back to a Copy")};
+    for (const KeptCopy& copy : keptCopies(m_storePath)) {
+        const auto count = countOf(copy.path);
+        if (!count)
+            continue;
+        const QString day = dayOf(copy.name);
+        page.choices.append(day + u" · " + counted(tr("Transactions"), *count));
+        page.next.push_back([this, path = copy.path, day] {
+            run(tr("Go Back to a Copy"), [=, this] { return copyPage(path, day); });
+        });
+    }
+    if (page.choices.isEmpty())
+        page.lines.append(tr("No copy is kept yet. The first one is made before the first change "
+                             "of a day."));
+    return page;
+}
+
+ExchangeView::Page ExchangeView::copyPage(const QString& copyPath, const QString& day) {
+    return {.title = day,
+            .lines = {counted(tr("Transactions in the copy"), countOf(copyPath).value_or(0)),
+                      counted(tr("Transactions now"), countOf(m_storePath).value_or(0)),
+                      tr("What is stored now is set aside, and can be gone back to like a copy.")},
+            .choices = {},
+            .action = tr("Go Back"),
+            .next = {[=, this] { goBack(copyPath, day); }}};
+}
+
+void ExchangeView::showCopies() {
+    run(tr("Go Back to a Copy"), [this] { return copiesPage(); });
+}
+
+void ExchangeView::goBack(const QString& copyPath, const QString& day) {
+    run(tr("Go Back to a Copy"), [=, this]() -> Page {
+        // One that is damaged or from a newer version is refused here.
+        static_cast<void>(Store(copyPath, Transaction::entity(), Store::Access::read));
+        goBackTo(copyPath, m_storePath);
+        return {.title = day,
+                .lines = {counted(tr("Transactions now"), countOf(m_storePath).value_or(0))}};
+    });
+}
+
+void ExchangeView::choose(int index) {
+    if (index >= 0 && index < int(m_page.next.size()))
+        std::exchange(m_page.next, {})[std::size_t(index)]();
+}
+
+void ExchangeView::proceed() {
+    if (!m_page.action.isEmpty())
+        choose(0);
+}
+
+void ExchangeView::dismiss() {
+    stop();
+    m_isPresented = false;
+    Q_EMIT changed();
+}
+
+} // namespace kovamo

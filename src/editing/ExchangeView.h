@@ -1,0 +1,95 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+#include <QThread>
+#include <QtQml/qqmlregistration.h>
+#include <atomic>
+#include <functional>
+#include <memory>
+
+namespace kovamo {
+
+/// How records go out to a file, come in from one, and come back from a copy. What takes time is
+/// done beside the screens, on the store's file, where the screens see it as another process's
+/// work.
+class ExchangeView : public QObject {
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ExchangeState)
+    QML_UNCREATABLE("Made by the screen of all transactions")
+    /// Whether there is something to show.
+    Q_PROPERTY(bool isPresented READ isPresented NOTIFY changed)
+    Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
+    Q_PROPERTY(QString title READ title NOTIFY changed)
+    /// What is to be known.
+    Q_PROPERTY(QStringList lines READ lines NOTIFY changed)
+    /// What can be chosen from; empty where nothing is.
+    Q_PROPERTY(QStringList choices READ choices NOTIFY changed)
+    /// What the button says that goes on; empty where there is none.
+    Q_PROPERTY(QString action READ action NOTIFY changed)
+
+  public:
+    /// Requires that `storePath` is the path of a store.
+    explicit ExchangeView(QString storePath, QObject* parent = nullptr);
+    /// Stops what is under way; nothing of it is stored.
+    ~ExchangeView() override;
+
+    [[nodiscard]] bool isPresented() const { return m_isPresented; }
+    [[nodiscard]] bool isBusy() const { return m_worker != nullptr; }
+    [[nodiscard]] QString title() const { return m_page.title; }
+    [[nodiscard]] QStringList lines() const { return m_page.lines; }
+    [[nodiscard]] QStringList choices() const { return m_page.choices; }
+    [[nodiscard]] QString action() const { return m_page.action; }
+
+    /// What a file is to be called to which the records go out today.
+    Q_INVOKABLE [[nodiscard]] static QString suggestedName();
+
+    /// Writes all records to the file at `path`: as CSV, unless its name ends like one of JSON's.
+    Q_INVOKABLE void exportTo(const QString& path);
+
+    /// Shows what the file at `path` would bring.
+    Q_INVOKABLE void importFrom(const QString& path);
+
+    /// Shows the copies that are kept, to choose one.
+    Q_INVOKABLE void showCopies();
+
+    Q_INVOKABLE void choose(int index);
+
+    /// Does what action() says.
+    Q_INVOKABLE void proceed();
+
+    /// Shows nothing any more, and stops what is under way.
+    Q_INVOKABLE void dismiss();
+
+  Q_SIGNALS:
+    void changed();
+
+  private:
+    using Work = std::function<void()>;
+
+    struct Page {
+        QString title;
+        QStringList lines{};
+        QStringList choices{};
+        QString action{};
+        std::vector<Work> next{};
+    };
+
+    void show(Page page);
+    void run(const QString& title, const std::function<Page()>& work);
+    void stop();
+    void import(const QString& path);
+    void goBack(const QString& copyPath, const QString& day);
+    [[nodiscard]] Page planPage(const QString& path);
+    [[nodiscard]] Page copiesPage();
+    [[nodiscard]] Page copyPage(const QString& copyPath, const QString& day);
+
+    QString m_storePath;
+    Page m_page;
+    bool m_isPresented = false;
+    std::unique_ptr<QThread> m_worker;
+    int m_run = 0;
+    std::atomic<bool> m_isStopped = false;
+};
+
+} // namespace kovamo

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QDBusMessage>
+#include <QObject>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+namespace kovamo {
+
+/// The desktop's own file dialog, over its portal: what phones and sandboxes have. Each question is
+/// answered by at most one signal; by none where the user cancels it.
+class FileChooser : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+
+  public:
+    explicit FileChooser(QObject* parent = nullptr) : QObject(parent) {}
+
+    /// Asks for a file to read.
+    Q_INVOKABLE void open(const QString& title);
+
+    /// Asks for a file to write; `name` is suggested.
+    Q_INVOKABLE void save(const QString& title, const QString& name);
+
+    /// Answers in the desktop's place with the file at `url`.
+    Q_INVOKABLE void choose(const QUrl& url, bool saves);
+
+  Q_SIGNALS:
+    /// The user has chosen the file at `path` to be read.
+    void opened(const QString& path);
+    /// The user has chosen the file at `path` to be written.
+    void saved(const QString& path);
+    /// The desktop has no such dialog.
+    void unavailable(bool saves, const QString& title, const QString& name);
+
+  private:
+    void ask(bool saves, const QString& title, const QString& name);
+
+  private Q_SLOTS:
+    void answer(const QDBusMessage& response);
+
+  private:
+    bool m_saves = false;
+    QString m_request;
+};
+
+} // namespace kovamo
