@@ -16,9 +16,16 @@ struct CommandLine {
     CommandLine() {
         parser.setApplicationDescription(
             QStringLiteral("Will you be in the black this month, in three months, in a year?"));
-        parser.addOptions({demo, appearance, pictures, version, help});
+        parser.addOptions(
+            {newTransaction, allTransactions, demo, appearance, pictures, version, help});
     }
 
+    QCommandLineOption newTransaction{
+        QString::fromLatin1(wordOf(StartAction::newTransaction)),
+        QStringLiteral("Open the form for a new transaction, in the app that runs if one does.")};
+    QCommandLineOption allTransactions{
+        QString::fromLatin1(wordOf(StartAction::allTransactions)),
+        QStringLiteral("Open the list of all transactions, in the app that runs if one does.")};
     QCommandLineOption demo{QStringLiteral("demo"),
                             QStringLiteral("Show sample data in a store that is thrown away.")};
     QCommandLineOption appearance{
@@ -53,6 +60,10 @@ Options parsedOptions(const QStringList& arguments) {
         options.error = line.parser.errorText();
         return options;
     }
+    if (line.parser.isSet(line.allTransactions))
+        options.action = StartAction::allTransactions;
+    if (line.parser.isSet(line.newTransaction))
+        options.action = StartAction::newTransaction;
     options.isDemo = line.parser.isSet(line.demo);
     options.wantsVersion = line.parser.isSet(line.version);
     options.wantsHelp = line.parser.isSet(line.help);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "StartAction.h"
 #include "platform/desktop/SystemColors.h"
 
 #include <QStringList>
@@ -15,6 +16,8 @@ struct Options {
     std::optional<ColorScheme> appearance;
     /// A folder to draw pictures of all screens into, in place of showing them.
     std::optional<QString> pictures;
+    /// What to open over the main screen.
+    StartAction action = StartAction::none;
     /// Only to say which version this is.
     bool wantsVersion = false;
     /// Only to explain the options.

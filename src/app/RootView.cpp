@@ -37,6 +37,13 @@ QString RootView::onboardingFinishedKey() {
     return QStringLiteral("onboardingFinished");
 }
 
+void RootView::perform(StartAction action) {
+    if (!m_onboardingFinished || m_content.showAddTransaction() || m_content.showTransactions())
+        return;
+    m_content.setShowAddTransaction(action == StartAction::newTransaction);
+    m_content.setShowTransactions(action == StartAction::allTransactions);
+}
+
 bool RootView::isMirrored() {
     return dateLocale().isRightToLeft();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "StartAction.h"
 #include "dashboard/ContentView.h"
 #include "engagement/OnboardingView.h"
 #include "platform/foundation/Calendar.h"
@@ -29,6 +30,10 @@ class RootView : public QObject {
     [[nodiscard]] bool onboardingFinished() const { return m_onboardingFinished; }
     [[nodiscard]] OnboardingView* onboarding() { return &m_onboarding; }
     [[nodiscard]] ContentView* content() { return &m_content; }
+
+    /// Opens what a start of the app asks for; nothing before the onboarding is finished or while a
+    /// sheet is open, for what is typed there is not to be lost.
+    void perform(StartAction action);
 
     /// The key of the preferences' flag that the onboarding was finished.
     [[nodiscard]] static QString onboardingFinishedKey();

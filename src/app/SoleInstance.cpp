@@ -6,6 +6,7 @@
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
+#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -18,7 +19,7 @@ namespace {
 /// Longer than a start takes on a slow and busy device: two windows are worse than a late one.
 constexpr int patience = 10000;
 constexpr int pause = 20;
-constexpr int longestToken = 4096;
+constexpr int longestLine = 4096;
 constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";
 
 /// Where the processes for a data folder and a display meet.
@@ -32,7 +33,8 @@ QString meetingPlace(const QString& folder) {
 
 } // namespace
 
-SoleInstance::SoleInstance(const QString& folder) : m_path(meetingPlace(folder)) {
+SoleInstance::SoleInstance(const QString& folder, StartAction action)
+    : m_path(meetingPlace(folder)) {
     // The other process may be starting or ending: try both, to take its place and to ask it.
     for (const QDeadlineTimer deadline(patience); !deadline.hasExpired(); QThread::msleep(pause)) {
         if (lock()) {
@@ -45,7 +47,7 @@ SoleInstance::SoleInstance(const QString& folder) : m_path(meetingPlace(folder))
         }
         // If the folder cannot hold a lock file, go on without looking for other processes.
         const bool isTaken = errno == EWOULDBLOCK;
-        m_handedOver = isTaken && ask();
+        m_handedOver = isTaken && ask(action);
         if (m_handedOver || !isTaken)
             return;
     }
@@ -63,12 +65,12 @@ bool SoleInstance::lock() {
     return ::flock(m_lockFile, LOCK_EX | LOCK_NB) == 0;
 }
 
-bool SoleInstance::ask() const {
+bool SoleInstance::ask(StartAction action) const {
     QLocalSocket socket;
     socket.connectToServer(m_path);
     if (!socket.waitForConnected(patience))
         return false;
-    socket.write(qgetenv(tokenVariable) + '\n');
+    socket.write(qgetenv(tokenVariable) + ' ' + wordOf(action) + '\n');
     return socket.waitForBytesWritten(patience) && socket.waitForReadyRead(patience);
 }
 
@@ -78,10 +80,13 @@ void SoleInstance::answer() {
     connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
         if (!socket->canReadLine())
             return;
-        const QByteArray token = socket->readLine(longestToken).trimmed();
+        // The token, which may be empty, and the word of the action.
+        const QByteArray line = socket->readLine(longestLine);
+        const qsizetype end = line.lastIndexOf(' ');
+        const QByteArray token = line.first(std::max<qsizetype>(end, 0));
         if (!token.isEmpty())
             qputenv(tokenVariable, token);
-        Q_EMIT activationRequested();
+        Q_EMIT activationRequested(startAction(line.sliced(end + 1).trimmed()));
         socket->write("shown\n");
         socket->disconnectFromServer();
     });

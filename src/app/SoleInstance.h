@@ -1,5 +1,7 @@
 #pragma once
 
+#include "StartAction.h"
+
 #include <QLocalServer>
 #include <QObject>
 
@@ -12,22 +14,22 @@ class SoleInstance : public QObject {
     Q_OBJECT
 
   public:
-    /// Becomes the one for `folder`, or asks the one there is. Where that does not answer in ten
-    /// seconds, goes on without it.
-    explicit SoleInstance(const QString& folder);
+    /// Becomes the one for `folder`, or hands `action` to the one there is. Where that does not
+    /// answer in ten seconds, goes on without it.
+    explicit SoleInstance(const QString& folder, StartAction action = StartAction::none);
     ~SoleInstance() override;
 
     /// Whether the one there is has come to the front, so that nothing is left to do here.
     [[nodiscard]] bool handedOver() const { return m_handedOver; }
 
   Q_SIGNALS:
-    /// A later start asks for the window; on Wayland its activation token is then in the
-    /// environment variable that Qt reads at the next requestActivate().
-    void activationRequested();
+    /// A later start asks for the window and an action; on Wayland its activation token is then in
+    /// the environment variable that Qt reads at the next requestActivate().
+    void activationRequested(kovamo::StartAction action);
 
   private:
     [[nodiscard]] bool lock();
-    [[nodiscard]] bool ask() const;
+    [[nodiscard]] bool ask(StartAction action) const;
     void answer();
 
     QString m_path;

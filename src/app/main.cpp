@@ -90,7 +90,8 @@ int show(const Options& options) {
     const DesktopSettings desktop(!options.appearance);
     std::optional<SoleInstance> instance;
     if (!options.isDemo)
-        instance.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+        instance.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
+                         options.action);
     if (instance && instance->handedOver())
         return 0;
     const PersistentContainer store(QStringLiteral("Kovamo"), Transaction::entity());
@@ -104,9 +105,13 @@ int show(const Options& options) {
     RootView root(viewContext(app));
     QQmlApplicationEngine engine;
     QQuickWindow& window = KovamoApp::showWindow(engine, root);
+    root.perform(options.action);
     if (instance)
         QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
-                         [&] { raise(window); });
+                         [&](StartAction action) {
+                             raise(window);
+                             root.perform(action);
+                         });
     follow(desktop, window);
     std::optional<OnScreenKeyboard> keyboard;
     if (OnScreenKeyboard::isCalledByApp())

@@ -49,6 +49,7 @@ class Visit {
         m_window->setProperty("reducedMotion", true);
         press(key, Qt::ControlModifier);
     }
+    void perform(StartAction action) { m_root.perform(action); }
     void write(const QString& field, const QString& text) {
         click(field);
         type(text);
@@ -295,6 +296,19 @@ TEST_F(App, SeesADeletionUnderTheSheet) {
     visit.press(Qt::Key_Escape);
     EXPECT_TRUE(visit.has("🙄 create a transaction"));
     EXPECT_TRUE(Book().all().empty());
+}
+
+TEST_F(App, OpensWhatAStartAsksForButNotOverASheet) {
+    Book book({{300}});
+    Visit visit(book);
+    visit.perform(StartAction::newTransaction);
+    EXPECT_TRUE(visit.has("Save"));
+    visit.perform(StartAction::allTransactions);
+    EXPECT_TRUE(visit.has("Save"));
+    visit.press(Qt::Key_Escape);
+    EXPECT_TRUE(visit.lacks("Save"));
+    visit.perform(StartAction::allTransactions);
+    EXPECT_TRUE(visit.shows("Transactions"));
 }
 
 TEST_F(App, AsksForStarsAtTheFourthStart) {

@@ -1,9 +1,12 @@
+#include "app/SoleInstance.h"
 #include "support/World.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QImage>
 #include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
 
 namespace kovamo {
 namespace {
@@ -71,6 +74,24 @@ TEST(SecondStart, LeavesTheFirstAloneAndComesBackWhenThatIsKilled) {
         starts[1 - ended].kill();
         starts[1 - ended].waitForFinished();
     }
+}
+
+TEST(SecondStart, HandsItsActionToTheFirst) {
+    qputenv("XDG_RUNTIME_DIR", World::folder().toUtf8());
+    SoleInstance first(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
+    QList<StartAction> heard;
+    QObject::connect(&first, &SoleInstance::activationRequested, &first,
+                     [&](StartAction action) { heard.append(action); });
+    for (const char* word : {"", "--new-transaction", "--all-transactions"}) {
+        QProcess second;
+        second.start(QStringLiteral(KOVAMO_EXECUTABLE),
+                     QString::fromLatin1(word).split(u' ', Qt::SkipEmptyParts));
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return second.state() == QProcess::NotRunning; }, 120000));
+        EXPECT_EQ(second.exitCode(), 0) << word;
+    }
+    EXPECT_EQ(heard, QList({StartAction::none, StartAction::newTransaction,
+                            StartAction::allTransactions}));
 }
 
 } // namespace
