@@ -42,8 +42,9 @@ TEST(UserDefaults, ReadsWhatOtherProgramsWroteAndDistrustsIt) {
         const QDir beside(folder());
         const QStringList broken = beside.entryList({QStringLiteral("App.conf.broken-*")});
         ASSERT_EQ(broken.size(), lines) << content;
-        if (lines)
+        if (lines) {
             EXPECT_EQ(kovamo::content(beside.filePath(broken[0])), content);
+        }
     }
 }
 
