@@ -24,6 +24,7 @@ const EntityDescription& Transaction::entity() {
                 {{QStringLiteral("isRecurring")}, {QStringLiteral("startDate")}},
                 {{QStringLiteral("amount"), false}},
             },
+        .identity = QStringLiteral("id"),
         .makeObject = [](ManagedObjectContext& context,
                          ObjectID id) -> std::unique_ptr<ManagedObject> {
             return std::make_unique<Transaction>(context, id);

@@ -2,10 +2,14 @@
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
 #include "model/PersistenceController.h"
+#include "platform/objectstore/file/KeptCopies.h"
 #include "support/Book.h"
 #include "support/FastQueue.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QTimer>
+#include <QTimerEvent>
 #include <SQLiteCpp/Database.h>
 #include <random>
 #include <sys/socket.h>
@@ -266,13 +270,79 @@ TEST_F(NothingLost, WhenTwoProcessesWrite) {
     }
 }
 
+TEST_F(NothingLost, WhenTheFileIsReplaced) {
+    const QString path = store.fileName(), backup = folder.filePath(QStringLiteral("backup")),
+                  away = folder.filePath(QStringLiteral("away"));
+    const struct {
+        std::function<void()> replace;
+        Amounts seen, after;
+    } cases[] = {
+        {[&] { (void)(QFile::rename(path, away) && QFile::copy(backup, path)); },
+         {1, 2, 9},
+         {2, 4, 9, 10, 30}},
+        {[&] { std::rename(qPrintable(backup), qPrintable(path)); }, {1, 2, 9}, {2, 4, 9, 10, 30}},
+        {[&] { (void)goBackTo(backup, path); }, {1, 2, 9}, {2, 4, 9, 10, 30}},
+        {[&] { folder.removeRecursively(); }, {1, 2, 3}, {4, 10, 30}},
+        {[&] { (void)QFile::rename(path, away); }, {1, 2, 3}, {4, 10, 30}},
+    };
+    for (const auto& [replace, seen, after] : cases) {
+        SCOPED_TRACE(&replace - &cases[0].replace);
+        folder.removeRecursively();
+        {
+            Book book;
+            addAndSave(book, {1, 2});
+        }
+        ASSERT_TRUE(QFile::copy(path, backup));
+        {
+            Book book;
+            book.context.setAutomaticallyMergesChangesFromParent(true);
+            addAndSave(book, {3});
+            const auto all = book.all();
+            SQLite::Database(backup.toStdString(), SQLite::OPEN_READWRITE)
+                .exec("INSERT INTO \"Transaction\" (pk, amount, title) VALUES (" +
+                      std::to_string(all[2]->objectID()) + ", 9, 'xxxxxxxxx')");
+            replace();
+            EXPECT_EQ(book.amounts(), seen);
+            saveForm(book.context, all[2], 30);
+            saveForm(book.context, all[0], 10);
+            saveForm(book.context, nullptr, 4);
+            EXPECT_EQ(all[2]->amount(), 30);
+        }
+        Amounts found = stored();
+        std::ranges::sort(found);
+        EXPECT_EQ(found, after);
+        if (QFile::exists(away)) {
+            SQLite::Database former(away.toStdString());
+            EXPECT_EQ(former.execAndGet("SELECT sum(amount) FROM \"Transaction\"").getInt(), 6);
+        }
+    }
+}
+
+TEST_F(NothingLost, WhenAnUnreadableFileTakesItsPlace) {
+    Book book({{5}});
+    book.context.setAutomaticallyMergesChangesFromParent(true);
+    const QString away = folder.filePath(QStringLiteral("away"));
+    ASSERT_TRUE(QFile::rename(store.fileName(), away) && store.open(QIODevice::WriteOnly));
+    store.write(QByteArray(8192, 'x'));
+    store.close();
+    EXPECT_EQ(book.amounts(), Amounts{5}) << "it may be on its way";
+    book.add({7}).setTitle(titleOf(7));
+    EXPECT_THROW(book.context.save(), StoreError);
+    ASSERT_TRUE(store.remove() && QFile::rename(away, store.fileName()));
+    book.context.save();
+    EXPECT_EQ(Book().amounts(), (Amounts{5, 7}));
+}
+
 TEST_F(NothingLost, AndWhatAnotherProcessSavesIsSeen) {
     const Book other({{5}});
     auto& context = PersistenceController::shared().container->viewContext();
     const Transaction* record = context.fetch<Transaction>(transactions()).front();
     EXPECT_EQ(record->amount(), 5);
     other.elsewhere("UPDATE \"Transaction\" SET amount = 7");
-    (void)context.count(transactions());
+    auto* timer = context.findChild<QTimer*>();
+    ASSERT_TRUE(timer && timer->isActive() && timer->interval() <= 1000);
+    QTimerEvent second(timer->timerId());
+    QCoreApplication::sendEvent(timer, &second);
     EXPECT_EQ(record->amount(), 7);
 }
 

@@ -3,6 +3,8 @@
 #include "Guarded.h"
 #include "StoredValue.h"
 
+#include <sqlite3.h>
+
 namespace kovamo {
 
 BulkWrite::BulkWrite(Store& store) : m_store(store) {
@@ -36,6 +38,9 @@ void BulkWrite::update(ObjectID id, std::span<const Value> values) {
 
 void BulkWrite::commit() {
     guarded(m_store.m_path, [&] { m_transaction->commit(); });
+    if (m_store.isReplaced())
+        fail(QStringLiteral("The store was replaced meanwhile"), SQLITE_READONLY_DBMOVED,
+             m_store.m_path);
 }
 
 } // namespace kovamo

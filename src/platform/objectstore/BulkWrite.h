@@ -24,6 +24,7 @@ class BulkWrite {
     /// Gives the record `id` these values. Requires that there is one.
     void update(ObjectID id, std::span<const Value> values);
 
+    /// Fails also where another file has taken the store's place since it was opened.
     void commit();
 
   private:

@@ -33,6 +33,8 @@ struct EntityDescription {
     std::vector<AttributeDescription> attributes;
     /// The orders in which the store can walk the records without sorting them.
     std::vector<std::vector<SortDescriptor>> indexes;
+    /// The UUID attribute that tells a record from all others, in whatever file it lies.
+    QString identity;
     /// Makes the object that stands for a record.
     std::unique_ptr<ManagedObject> (*makeObject)(ManagedObjectContext&, ObjectID);
 

@@ -5,15 +5,18 @@
 #include "platform/foundation/MainQueue.h"
 #include "platform/objectstore/file/StoreError.h"
 
+#include <QHash>
 #include <QPointer>
+#include <span>
 #include <utility>
 
 namespace kovamo {
 
 ManagedObjectContext::ManagedObjectContext(Store& store, const EntityDescription& entity)
     : m_store(store), m_entity(entity) {
-    connect(&m_look, &QTimer::timeout, this, [this] {
+    connect(&m_mergeTimer, &QTimer::timeout, this, [this] {
         try {
+            followFile();
             mergeChanges();
         } catch (const StoreError&) {
             // A timer has no caller to throw to: the next fetch meets the same error and throws it.
@@ -29,6 +32,11 @@ void ManagedObjectContext::requireEntity(const FetchRequest& request) const {
 }
 
 std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request) {
+    followFile();
+    return selectIDs(request);
+}
+
+std::vector<ObjectID> ManagedObjectContext::selectIDs(const FetchRequest& request) {
     requireEntity(request);
     mergeChanges();
     if (m_unsaved.isEmpty())
@@ -43,9 +51,10 @@ std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request
 }
 
 std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchRequest& request) {
+    followFile();
     // One read transaction: otherwise another process could delete a record between the two reads.
     const std::unique_ptr<SQLite::Transaction> reading = m_store.readTransaction();
-    const std::vector<ObjectID> ids = fetchIDs(request);
+    const std::vector<ObjectID> ids = selectIDs(request);
     std::vector<ManagedObject*> objects;
     objects.reserve(ids.size());
     for (const ObjectID id : ids) {
@@ -59,6 +68,7 @@ std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchReques
 
 std::size_t ManagedObjectContext::count(const FetchRequest& request) {
     requireEntity(request);
+    followFile();
     mergeChanges();
     return m_unsaved.isEmpty() ? m_store.count(request) : fetchIDs(request).size();
 }
@@ -136,10 +146,14 @@ bool ManagedObjectContext::hasChanges() const {
 void ManagedObjectContext::save() {
     if (m_unsaved.isEmpty())
         return announce();
-    mergeChanges();
-    announce();
-    while (!m_store.write(m_unsaved))
-        renumberInserted();
+    do {
+        if (m_store.isReplaced())
+            goOnElsewhere();
+        mergeChanges();
+        announce();
+        while (!m_store.write(m_unsaved))
+            renumberInserted();
+    } while (m_store.isReplaced());
     for (ManagedObject* object : m_unsaved.inserted)
         object->m_isInserted = false;
     for (ManagedObject* object : m_unsaved.updated)
@@ -199,11 +213,65 @@ void ManagedObjectContext::announce() {
 void ManagedObjectContext::setAutomaticallyMergesChangesFromParent(bool merges) {
     m_mergesChanges = merges;
     // Asking SQLite costs microseconds, and no file watcher can tell when a save is complete.
-    m_look.setTimerType(Qt::VeryCoarseTimer);
+    m_mergeTimer.setTimerType(Qt::VeryCoarseTimer);
     if (merges)
-        m_look.start(std::chrono::seconds(1));
+        m_mergeTimer.start(std::chrono::seconds(1));
     else
-        m_look.stop();
+        m_mergeTimer.stop();
+}
+
+void ManagedObjectContext::followFile() {
+    if (!m_mergesChanges || !m_store.isReplaced() || !m_store.isThere())
+        return;
+    try {
+        goOnElsewhere();
+    } catch (const StoreError&) {
+        // It may still be on its way: until it can be opened, what was there before shows.
+    }
+}
+
+void ManagedObjectContext::goOnElsewhere() {
+    m_store.reopen();
+    const std::size_t identity = m_entity.attributeIndex(m_entity.identity);
+    const auto identityIn = [&](std::span<const Value> values) {
+        const auto* id = std::get_if<QUuid>(&values[identity]);
+        return id ? *id : QUuid();
+    };
+    std::unordered_map<ObjectID, QUuid> rows;
+    QHash<QUuid, ObjectID> places;
+    m_store.forEach([&](ObjectID id, std::span<const Value> values) {
+        places.insert(rows[id] = identityIn(values), id);
+        return true;
+    });
+    places.remove(QUuid());
+    ObjectID unused = m_store.unusedID();
+    for (const auto& [id, object] : m_objects)
+        unused = std::max(unused, id + 1);
+    // An object stays with its record. One whose record is not there has an identity that no other
+    // record has, so that a save adds it.
+    const auto placeOf = [&](const ManagedObject& object) {
+        const auto row = rows.find(object.m_objectID);
+        const QUuid id = object.m_values.empty() ? QUuid() : identityIn(object.m_values);
+        if (row == rows.end() || (!id.isNull() && row->second == id) || object.m_values.empty())
+            return places.value(id, object.m_objectID);
+        return places.contains(id) ? places[id] : unused++;
+    };
+    std::vector<std::unique_ptr<ManagedObject>> objects;
+    for (auto& [id, object] : m_objects)
+        objects.push_back(std::move(object));
+    m_objects.clear();
+    std::ranges::stable_partition(objects,
+                                  [](const auto& object) { return !object->m_values.empty(); });
+    for (std::unique_ptr<ManagedObject>& object : objects) {
+        object->m_isStale = !object->m_isInserted && !object->m_isUpdated && !object->m_isDeleted;
+        object->m_objectID = placeOf(*object);
+        if (m_objects.contains(object->m_objectID) && !object->m_values.empty())
+            object->m_objectID = unused++;
+        const auto [place, isFree] = m_objects.try_emplace(object->m_objectID, std::move(object));
+        if (!isFree) // nobody has looked at its values yet
+            m_deletedObjects.push_back(std::move(object));
+    }
+    renumberInserted();
 }
 
 void ManagedObjectContext::mergeChanges() {

@@ -68,7 +68,9 @@ class ManagedObjectContext : public QObject {
     void deleteObject(ManagedObject& object);
 
     /// Writes all pending changes durably, or none: throws StoreError, keeps them pending and
-    /// leaves the store as it was. Observers are told before the changes are written.
+    /// leaves the store as it was. Observers are told before the changes are written. Where another
+    /// file has taken the place of the store's, they are written to that one: a changed record that
+    /// it does not have is added to it.
     void save();
 
     /// Does ahead, in small steps of the main queue, what the first save of the day would have to
@@ -77,8 +79,8 @@ class ManagedObjectContext : public QObject {
 
     [[nodiscard]] bool hasChanges() const;
 
-    /// Whether what other writers save to the store shows here: at the next fetch, and within a
-    /// second or two without one.
+    /// Whether what other writers save to the store shows here, and another file that takes its
+    /// place: at the next fetch, and within a second or two without one.
     void setAutomaticallyMergesChangesFromParent(bool merges);
 
   Q_SIGNALS:
@@ -97,6 +99,10 @@ class ManagedObjectContext : public QObject {
     void announceLater();
     void announce();
     void mergeChanges();
+    /// Goes on with the file that has taken the place of the store's, if one has.
+    void followFile();
+    void goOnElsewhere();
+    [[nodiscard]] std::vector<ObjectID> selectIDs(const FetchRequest& request);
     void renumberInserted();
     void mergePending(const FetchRequest& request, std::vector<ObjectID>& ids);
     void requireEntity(const FetchRequest& request) const;
@@ -109,7 +115,7 @@ class ManagedObjectContext : public QObject {
     ObjectChanges m_unannounced;
     bool m_willAnnounce = false;
     bool m_mergesChanges = false;
-    QTimer m_look;
+    QTimer m_mergeTimer{this};
 };
 
 } // namespace kovamo

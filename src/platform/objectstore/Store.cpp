@@ -26,8 +26,8 @@ std::string utf8(const QString& text) {
     return text.toStdString();
 }
 
-CalendarDay today() {
-    return Calendar().today();
+QString sharedMemoryPath(const QString& path) {
+    return path + u"-shm";
 }
 
 /// Runs a statement with the record's values and its identity; returns how many rows it changed.
@@ -44,39 +44,49 @@ int put(SQLite::Statement& statement, const ManagedObject& object) {
 } // namespace
 
 Store::Store(const QString& path, const EntityDescription& entity, Access access)
-    : m_path(path), m_entity(entity), m_table(entity) {
+    : m_path(path), m_entity(entity), m_table(entity), m_access(access),
+      m_copy(path, m_table.name) {
     if (access == Access::read && !QFileInfo(path).isFile())
         fail(QStringLiteral("There is no store"), SQLITE_CANTOPEN, path);
     if (isEmptied(path))
         fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path);
     if (access == Access::readAndWrite)
         makeStoreFile(path);
-    guarded(path, [&] {
-        m_database.emplace(utf8(path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
-                           busyTimeoutMilliseconds);
-        m_statements.emplace(*m_database);
-        // Otherwise SQLite takes a misspelt column in double quotes for a text constant.
-        sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-        // Otherwise closing writes the log into a store that was refused or only read.
-        checkpointOnClose(false);
-        refuseNewer();
-        refuseDamaged(access);
-        // Until the write-ahead log is in use: EXTRA syncs the folder after the journal is deleted.
-        // A power cut could bring the journal back otherwise, and undo the save.
-        m_database->exec("PRAGMA synchronous = EXTRA");
-        if (access == Access::readAndWrite)
-            createSchema();
-        else if (!isMade())
-            fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, path);
-        // Preparing this fails if the table lacks a column: better now than at the first save.
-        (void)m_statements->use(m_table.selection);
-        (void)changedElsewhere();
-    });
+    guarded(path, [&] { open(); });
+}
+
+void Store::open() {
+    m_file = identityOf(m_path);
+    m_database = std::make_unique<SQLite::Database>(
+        utf8(m_path), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyTimeoutMilliseconds);
+    m_statements = std::make_unique<StatementCache>(*m_database);
+    // Otherwise SQLite takes a misspelt column in double quotes for a text constant.
+    sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    // Otherwise closing writes the log into a store that was refused or only read.
+    checkpointOnClose(false);
+    refuseNewer();
+    refuseDamaged();
+    // Until the write-ahead log is in use: EXTRA syncs the folder after the journal is deleted.
+    // A power cut could bring the journal back otherwise, and undo the save.
+    m_database->exec("PRAGMA synchronous = EXTRA");
+    if (m_access == Access::readAndWrite)
+        createSchema();
+    else if (!isMade())
+        fail(QStringLiteral("The file is no store of the app"), SQLITE_NOTADB, m_path);
+    // Preparing this fails if the table lacks a column: better now than at the first save.
+    (void)m_statements->use(m_table.selection);
+    (void)changedElsewhere();
+    m_sharedMemory = identityOf(sharedMemoryPath(m_path));
 }
 
 Store::~Store() {
     try {
-        m_copy.reset();
+        m_copy.abandon();
+        if (isReplaced()) {
+            if (m_access == Access::readAndWrite)
+                leaveFile();
+            return;
+        }
         if (!m_wasWritten) {
             // Without a log, closing only removes its empty files.
             checkpointOnClose(!hasLog(m_path));
@@ -90,7 +100,7 @@ Store::~Store() {
         m_database->setBusyTimeout(0);
         m_database->exec("PRAGMA wal_checkpoint(TRUNCATE)");
         seal(*m_database, m_path);
-    } catch (const SQLite::Exception&) {
+    } catch (const std::exception&) {
         // Without a seal, the next opening checks the whole file.
     }
 }
@@ -107,12 +117,12 @@ void Store::refuseNewer() const {
              m_path);
 }
 
-void Store::refuseDamaged(Access access) const {
+void Store::refuseDamaged() const {
     if (isSealed(*m_database, m_path) || QFileInfo(m_path).size() == 0)
         return;
     if (const QString fault = faultOf(*m_database); !fault.isEmpty())
         fail(fault, SQLITE_CORRUPT, m_path);
-    if (access == Access::readAndWrite)
+    if (m_access == Access::readAndWrite)
         seal(*m_database, m_path);
 }
 
@@ -252,38 +262,12 @@ ObjectID Store::unusedID() const {
     });
 }
 
-bool Store::beginCopy() {
-    if (!m_copy && integer(u"SELECT EXISTS (SELECT 1 FROM " + m_table.name + u')'))
-        m_copy.emplace(*m_database, m_path);
-    return m_copy.has_value();
-}
-
 bool Store::prepareCopy(int pages) {
-    try {
-        return m_dayOfCopy == today() || !beginCopy() || m_copy->advance(pages);
-    } catch (const SQLite::Exception&) {
-        // keepCopy() tries again before the write.
-        m_copy.reset();
-        return true;
-    }
-}
-
-void Store::keepCopy() {
-    const CalendarDay day = today();
-    if (m_dayOfCopy == day)
-        return;
-    try {
-        if (beginCopy())
-            m_copy->finish();
-    } catch (const SQLite::Exception&) {
-        // If the disk has no room for a copy, saving is still worth trying.
-    }
-    m_copy.reset();
-    m_dayOfCopy = day;
+    return m_copy.prepare(*m_database, pages);
 }
 
 void Store::prepareToWrite() {
-    keepCopy();
+    m_copy.keep(*m_database);
     if (m_wasWritten)
         return;
     // SQLite does not wait here: of two processes that switch at once, one gets SQLITE_BUSY.
@@ -296,6 +280,8 @@ void Store::prepareToWrite() {
         fail(QString::fromUtf8(m_database->getErrorMsg()), m_database->getExtendedErrorCode(),
              m_path);
     m_wasWritten = true;
+    (void)changedElsewhere(); // in the new mode, a look makes the memory beside the file
+    m_sharedMemory = identityOf(sharedMemoryPath(m_path));
 }
 
 bool Store::write(const ObjectChanges& changes) {
@@ -328,6 +314,43 @@ bool Store::changedElsewhere() {
         const int version = static_cast<int>(integer(QStringLiteral("PRAGMA data_version")));
         return std::exchange(m_lastDataVersion, version) != version;
     });
+}
+
+bool Store::isReplaced() const {
+    return m_hasLeft || identityOf(m_path) != m_file;
+}
+
+bool Store::isThere() const {
+    return identityOf(m_path) != FileIdentity();
+}
+
+void Store::reopen() {
+    m_copy.abandon();
+    guarded(m_path, [&] { leaveFile(); });
+    Store next(m_path, m_entity, m_access);
+    m_database.swap(next.m_database);
+    m_statements.swap(next.m_statements);
+    std::swap(m_file, next.m_file);
+    std::swap(m_sharedMemory, next.m_sharedMemory);
+    std::swap(m_hasLeft, next.m_hasLeft);
+    std::swap(m_lastDataVersion, next.m_lastDataVersion);
+    m_wasWritten = false;
+}
+
+void Store::leaveFile() {
+    if (m_hasLeft)
+        return;
+    // SQLite would take the log of one file for that of another, which has its name now.
+    SQLite::Statement checkpoint(*m_database, "PRAGMA wal_checkpoint(TRUNCATE)");
+    if (checkpoint.executeStep() && checkpoint.getColumn(0).getInt() != 0)
+        throw SQLite::Exception("The store is busy", SQLITE_BUSY);
+    checkpoint.reset();
+    m_hasLeft = true;
+    const QString sharedMemory = sharedMemoryPath(m_path);
+    if (m_sharedMemory == FileIdentity() || identityOf(sharedMemory) != m_sharedMemory)
+        return; // others lie there
+    QFile::remove(m_path + u"-wal");
+    QFile::remove(sharedMemory);
 }
 
 } // namespace kovamo

@@ -3,14 +3,14 @@
 #include "EntityTable.h"
 #include "FetchRequest.h"
 #include "StatementCache.h"
-#include "platform/foundation/Calendar.h"
-#include "platform/objectstore/file/StoreCopy.h"
+#include "platform/objectstore/file/DailyCopy.h"
+#include "platform/objectstore/file/StoreFile.h"
 
 #include <QSet>
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 #include <functional>
-#include <optional>
+#include <memory>
 #include <span>
 
 namespace kovamo {
@@ -68,17 +68,28 @@ class Store {
     /// Whether another writer has saved since this was last asked.
     [[nodiscard]] bool changedElsewhere();
 
+    /// Whether another file has taken the place of the one that is open, or whether that place is
+    /// empty.
+    [[nodiscard]] bool isReplaced() const;
+
+    /// Whether there is a file at the store's path.
+    [[nodiscard]] bool isThere() const;
+
+    /// Opens what lies at the path now, or makes it, and closes the file that was open before. When
+    /// that fails, the former file stays open to be read from. Requires that nothing is in use.
+    void reopen();
+
   private:
     friend class BulkWrite;
 
     void readValues(SQLite::Statement& row, ObjectID id, std::vector<Value>& values);
+    void open();
+    void leaveFile();
     void checkpointOnClose(bool checkpoints);
     void refuseNewer() const;
-    void refuseDamaged(Access access) const;
+    void refuseDamaged() const;
     [[nodiscard]] bool isMade() const;
     void createSchema();
-    bool beginCopy();
-    void keepCopy();
     void prepareToWrite();
     [[nodiscard]] StatementCache::Use prepared(const QString& selection,
                                                const FetchRequest& request) const;
@@ -89,10 +100,14 @@ class Store {
     QString m_path;
     const EntityDescription& m_entity;
     EntityTable m_table;
-    mutable std::optional<SQLite::Database> m_database;
-    mutable std::optional<StatementCache> m_statements;
-    std::optional<StoreCopy> m_copy;
-    std::optional<CalendarDay> m_dayOfCopy;
+    Access m_access;
+    std::unique_ptr<SQLite::Database> m_database;
+    std::unique_ptr<StatementCache> m_statements;
+    DailyCopy m_copy;
+    FileIdentity m_file;
+    // Of the memory beside the file that its log is read by; empty until there is one.
+    FileIdentity m_sharedMemory;
+    bool m_hasLeft = false;
     bool m_wasWritten = false;
     ObjectID m_largestDeleted = 0;
     int m_lastDataVersion = 0;

@@ -43,6 +43,13 @@ void makeStoreFile(const QString& path) {
         fail(QString::fromLocal8Bit(std::strerror(code)), code, path);
 }
 
+FileIdentity identityOf(const QString& path) {
+    struct stat status {};
+    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
+        return {};
+    return {status.st_dev, status.st_ino};
+}
+
 void syncFolder(const QString& folder) {
     const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
     ::fsync(file);
