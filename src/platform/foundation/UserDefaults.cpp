@@ -1,6 +1,8 @@
 #include "UserDefaults.h"
 
 #include "Bundle.h"
+#include "Formatters.h"
+#include "SyncFolder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -29,7 +31,8 @@ QString preferencesPath() {
 void makeFolder(const QString& path) {
     const QFileInfo folder(path);
     QDir().mkpath(folder.path());
-    QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    if (QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+        syncFolder(folder.path());
 }
 
 } // namespace
@@ -40,8 +43,8 @@ UserDefaults::UserDefaults()
     (void)m_settings->allKeys();
     if (m_settings->status() == QSettings::NoError)
         return;
+    m_isBroken = true;
     report("read");
-    m_settings->clear();
 }
 
 UserDefaults::~UserDefaults() = default;
@@ -80,11 +83,23 @@ void UserDefaults::set(const QString& key, const QString& value) {
 }
 
 void UserDefaults::write(const QString& key, const QVariant& value) {
-    makeFolder(QFileInfo(m_settings->fileName()).path());
+    const QString folder = QFileInfo(m_settings->fileName()).path();
+    makeFolder(folder);
+    if (std::exchange(m_isBroken, false))
+        setAside();
     m_settings->setValue(key, value);
     m_settings->sync();
+    syncFolder(folder);
     if (m_settings->status() != QSettings::NoError)
         report("written");
+}
+
+void UserDefaults::setAside() const {
+    const QString base = m_settings->fileName() + u".broken-" + dayText(Clock::now());
+    QString path = base;
+    for (int number = 2; QFileInfo::exists(path); ++number)
+        path = base + u'-' + QString::number(number);
+    QFile::copy(m_settings->fileName(), path);
 }
 
 void UserDefaults::report(const char* trouble) {

@@ -10,9 +10,10 @@ class QSettings;
 namespace kovamo {
 
 /// The user's preferences: `$XDG_CONFIG_HOME/name/name.conf` by the bundle's name, keys at top
-/// level or under [General], in a folder for its owner alone. Preferences that cannot be parsed are
-/// as if absent, those that cannot be written go with the process; the first such trouble says so
-/// in one line on standard error.
+/// level or under [General], in a folder for its owner alone. Of a file that cannot be parsed
+/// in whole, what can be read counts, and the file is kept beside ("name.conf.broken-2026-11-24")
+/// before anything is written. What cannot be written goes with the process; the first such trouble
+/// says so in one line on standard error.
 class UserDefaults {
   public:
     UserDefaults();
@@ -34,16 +35,18 @@ class UserDefaults {
     /// Whether the flag under `key` is set; false where it is absent or no flag.
     [[nodiscard]] bool boolean(const QString& key) const;
 
-    /// Writes a value under `key` and to the file at once.
+    /// Writes a value under `key`; it is on the disk when the call returns.
     void set(const QString& key, std::int64_t value);
     void set(const QString& key, bool value);
     void set(const QString& key, const QString& value);
 
   private:
+    void setAside() const;
     void write(const QString& key, const QVariant& value);
     void report(const char* trouble);
 
     std::unique_ptr<QSettings> m_settings;
+    bool m_isBroken = false;
     bool m_reported = false;
 };
 

@@ -16,14 +16,15 @@ QString folder() {
 }
 
 TEST(UserDefaults, ReadsWhatOtherProgramsWroteAndDistrustsIt) {
-    const std::tuple<const char*, std::int64_t, std::size_t> cases[] = {
+    const std::tuple<const char*, std::int64_t, int> cases[] = {
         {"[General]\nappStartUpsCountKey=7\n", 7, 0},
         {"appStartUpsCountKey=\"7\"\n[Else]\nappStartUpsCountKey=3\n", 7, 0},
         {"appStartUpsCountKey=9223372036854775807\n", INT64_MAX, 0},
         {"appStartUpsCountKey=9223372036854775808\n", 0, 0},
         {"appStartUpsCountKey=seven\n", 0, 0},
         {"appStartUpsCountKey=7,8\n", 0, 0},
-        {"appStartUpsCountKey=7\n[Else\n", 0, 1},
+        {"appStartUpsCountKey=7\nbroken\nother=1\n", 7, 1},
+        {"appStartUpsCountKey=7\n[Else\n", 7, 1},
         {"\xff\xfe no preferences", 0, 1},
     };
     for (const auto& [content, number, lines] : cases) {
@@ -38,6 +39,11 @@ TEST(UserDefaults, ReadsWhatOtherProgramsWroteAndDistrustsIt) {
         const std::string output = testing::internal::GetCapturedStderr();
         EXPECT_EQ(std::count(output.begin(), output.end(), '\n'), lines) << output;
         EXPECT_EQ(UserDefaults().integer(key), 9) << content;
+        const QDir beside(folder());
+        const QStringList broken = beside.entryList({QStringLiteral("App.conf.broken-*")});
+        ASSERT_EQ(broken.size(), lines) << content;
+        if (lines)
+            EXPECT_EQ(kovamo::content(beside.filePath(broken[0])), content);
     }
 }
 

@@ -3,9 +3,9 @@
 #include "Soundness.h"
 #include "StoreCopy.h"
 #include "StoreError.h"
-#include "StoreFile.h"
 #include "UnfinishedStore.h"
 #include "platform/foundation/Formatters.h"
+#include "platform/foundation/SyncFolder.h"
 
 #include <QCoreApplication>
 #include <QDir>

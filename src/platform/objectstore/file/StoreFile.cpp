@@ -1,6 +1,7 @@
 #include "StoreFile.h"
 
 #include "StoreError.h"
+#include "platform/foundation/SyncFolder.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -48,12 +49,6 @@ FileIdentity identityOf(const QString& path) {
     if (::stat(QFile::encodeName(path).constData(), &status) != 0)
         return {};
     return {status.st_dev, status.st_ino};
-}
-
-void syncFolder(const QString& folder) {
-    const int file = ::open(QFile::encodeName(folder).constData(), O_RDONLY | O_DIRECTORY);
-    ::fsync(file);
-    ::close(file);
 }
 
 } // namespace kovamo

@@ -21,7 +21,4 @@ struct FileIdentity {
 /// The identity of the file at `path`; the empty one where there is none.
 [[nodiscard]] FileIdentity identityOf(const QString& path);
 
-/// Makes what was done to the names in a folder last.
-void syncFolder(const QString& folder);
-
 } // namespace kovamo
