@@ -47,7 +47,10 @@ void LiveFetch::refetch() {
 void LiveFetch::insert(const ManagedObject& object) {
     if (!matches(object))
         return;
-    const int at = place(object);
+    const std::optional<int> found = place(object);
+    if (!found)
+        return refetch();
+    const int at = *found;
     // A pending record is already part of a fetch that ran before it was announced.
     if (at > 0 && m_ids[static_cast<std::size_t>(at) - 1] == object.objectID())
         return;
@@ -72,8 +75,11 @@ void LiveFetch::update(const ManagedObject& object) {
     if (!matches(object))
         return remove(object);
     m_ids.erase(m_ids.begin() + from);
-    const int to = place(object);
+    const std::optional<int> found = place(object);
     m_ids.insert(m_ids.begin() + from, object.objectID());
+    if (!found)
+        return refetch();
+    const int to = *found;
     if (to != from) {
         beginMoveRows({}, from, from, {}, to > from ? to + 1 : to);
         m_ids.erase(m_ids.begin() + from);
@@ -88,13 +94,16 @@ int LiveFetch::row(const ManagedObject& object) const {
     return found == m_ids.end() ? -1 : static_cast<int>(found - m_ids.begin());
 }
 
-int LiveFetch::place(const ManagedObject& object) const {
-    const auto found =
-        std::ranges::upper_bound(m_ids, object.objectID(), [this](ObjectID a, ObjectID b) {
-            return m_request.precedes(m_context.entity(), a, m_context.object(a).values(), b,
-                                      m_context.object(b).values());
-        });
-    return static_cast<int>(found - m_ids.begin());
+std::optional<int> LiveFetch::place(const ManagedObject& object) const {
+    bool isComplete = true;
+    const auto precedes = [&](ObjectID a, ObjectID b) {
+        const ManagedObject &first = m_context.object(a), &second = m_context.object(b);
+        isComplete = isComplete && first.exists() && second.exists();
+        return isComplete &&
+               m_request.precedes(m_context.entity(), a, first.values(), b, second.values());
+    };
+    const auto found = std::ranges::upper_bound(m_ids, object.objectID(), precedes);
+    return isComplete ? std::optional(static_cast<int>(found - m_ids.begin())) : std::nullopt;
 }
 
 bool LiveFetch::matches(const ManagedObject& object) const {

@@ -31,7 +31,8 @@ class LiveFetch : public QAbstractListModel {
     void remove(const ManagedObject& object);
     void update(const ManagedObject& object);
     [[nodiscard]] int row(const ManagedObject& object) const;
-    [[nodiscard]] int place(const ManagedObject& object) const;
+    /// Where the record belongs; nothing where another process has deleted one that is listed.
+    [[nodiscard]] std::optional<int> place(const ManagedObject& object) const;
     [[nodiscard]] bool matches(const ManagedObject& object) const;
 
     ManagedObjectContext& m_context;

@@ -33,6 +33,8 @@ void ManagedObjectContext::requireEntity(const FetchRequest& request) const {
 
 std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request) {
     followFile();
+    // What is pending is put among records that nobody may delete before they are read.
+    const auto reading = m_unsaved.isEmpty() ? nullptr : m_store.readTransaction();
     return selectIDs(request);
 }
 

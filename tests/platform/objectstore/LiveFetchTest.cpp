@@ -57,5 +57,18 @@ TEST(LiveFetch, FollowsEveryChangeAsAFreshFetchWould) {
     EXPECT_EQ(rows.amounts().front(), 1000) << "another writer's record is not shown";
 }
 
+TEST(LiveFetch, OutlivesADeletionElsewhereBetweenTheMergeAndTheWriteOfASave) {
+    (void)Book({{1}, {2}, {3}});
+    Book book;
+    QObject::connect(&book.context, &ManagedObjectContext::objectsDidChange,
+                     [&] { book.elsewhere("DELETE FROM \"Transaction\" WHERE amount = 2"); });
+    const FetchRequest request = transactions({}, {{QStringLiteral("amount")}});
+    const Rows rows(book.context, request);
+    book.add({4});
+    book.context.save();
+    EXPECT_EQ(rows.amounts(), (std::vector<std::int32_t>{1, 3, 4}));
+    EXPECT_EQ(Book().amounts(), rows.amounts());
+}
+
 } // namespace
 } // namespace kovamo
