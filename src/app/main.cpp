@@ -14,6 +14,7 @@
 #include <QQuickWindow>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <csignal>
 #include <cstdio>
 #include <optional>
 
@@ -107,6 +108,8 @@ int show(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // Nobody may read what is printed: a write then fails instead of ending the process.
+    std::signal(SIGPIPE, SIG_IGN);
     KovamoApp::describe();
     const QStringList arguments = argumentsOf(argc, argv);
     if (const std::optional<int> status = runCommand(arguments))
