@@ -18,7 +18,7 @@ const PersistenceController& PersistenceController::shared() {
         loaded->loadPersistentStores([&](const StoreError* error) {
             if (!error)
                 return;
-            const auto copy = loaded->newestCopy();
+            const auto copy = error->isDamage() ? loaded->newestCopy() : std::nullopt;
             unresolvedError(*error, copy ? u"The newest copy of the store is " + *copy : QString());
         });
         loaded->viewContext().setAutomaticallyMergesChangesFromParent(true);

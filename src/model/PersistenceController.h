@@ -16,7 +16,7 @@ struct PersistenceController {
     std::shared_ptr<PersistentContainer> container;
 
     /// The one instance of the process; the store is loaded at its first use. A store that cannot
-    /// be loaded ends in unresolvedError(), which names the newest copy of it.
+    /// be loaded ends in unresolvedError(), which names the newest copy of one that is damaged.
     static const PersistenceController& shared();
 };
 

@@ -105,7 +105,7 @@ class NothingLost : public testing::Test {
     /// The days whose copies are kept, each with the number of records in its copy.
     [[nodiscard]] std::string kept() const {
         std::string days;
-        for (const QFileInfo& file : folder.entryInfoList({QStringLiteral("Kovamo-*")})) {
+        for (const QFileInfo& file : folder.entryInfoList({QStringLiteral("Kovamo-*.sqlite")})) {
             EXPECT_FALSE(file.permission(QFile::ReadGroup) || file.permission(QFile::ReadOther));
             SQLite::Database copy(file.filePath().toStdString());
             days += file.fileName().mid(15, 2).toStdString() + ":" +
@@ -196,7 +196,8 @@ TEST_F(NothingLost, WhenAnyCallFails) {
                 const bool saved = app.said.starts_with("saved");
                 EXPECT_EQ(app.signal, stopped ? SIGABRT : 0) << app.said;
                 EXPECT_TRUE(saved || (isFatal ? stopped : app.said == "pending")) << app.said;
-                EXPECT_TRUE(folder.entryList({QStringLiteral("*-copy-*")}).isEmpty()) << call;
+                const auto files = QDir::Files | QDir::Hidden;
+                EXPECT_TRUE(folder.entryList({QStringLiteral("*-copy-*")}, files).isEmpty());
                 const Amounts found = stored();
                 EXPECT_TRUE(found == after || (found == Amounts{500, 300} && !saved)) << app.said;
             }
@@ -359,14 +360,17 @@ TEST_F(NothingLost, WhileTheStateBeforeTheFirstWriteIsKeptForThreeDays) {
         addAndSave(book, {4});
         EXPECT_EQ(kept(), expected) << "a day's newest takes the place of the one before";
     }
-    ASSERT_TRUE(store.copy(folder.filePath(QStringLiteral("Kovamo-my-own-copy.sqlite"))));
+    for (const char* own :
+         {"Kovamo-my-own-copy.sqlite", "Kovamo-2019-01-01.sqlite", "Kovamo.sqlite-copy-1"})
+        ASSERT_TRUE(store.copy(folder.filePath(QLatin1String(own))));
     for (Book book; const char* day :
                     {"2024-05-16 00:01", "2024-05-17", "2024-05-18", "2031-05-01", "2024-05-19"}) {
         World::setTime(day);
         addAndSave(book, {6});
         addAndSave(book, {7});
     }
-    EXPECT_EQ(kept(), "17:7 18:9 19:13 01:11 op:5 ") << "the clock was ahead once";
+    EXPECT_EQ(kept(), "01:5 17:7 18:9 19:13 01:11 op:5 ") << "the clock was ahead once";
+    EXPECT_TRUE(QFile::exists(store.fileName() + u"-copy-1")) << "it is the user's";
 
     ASSERT_TRUE(store.open(QIODevice::WriteOnly));
     const Fork app([] { (void)PersistenceController::shared(); });
@@ -378,6 +382,20 @@ TEST_F(NothingLost, WhileTheStateBeforeTheFirstWriteIsKeptForThreeDays) {
         << app.said;
     ASSERT_TRUE(store.remove() && QFile::copy(copy, store.fileName()));
     EXPECT_EQ(stored().size(), 13U);
+
+    ASSERT_TRUE(store.remove());
+    for (Book book; const char* day : {"2024-05-20", "2024-05-21", "2024-05-22", "2024-05-23"}) {
+        World::setTime(day);
+        addAndSave(book, {6});
+        addAndSave(book, {7});
+    }
+    EXPECT_EQ(kept(), "01:5 17:7 18:9 19:13 21:2 22:4 23:6 01:11 op:5 ")
+        << "another store's copies go before those of this one";
+    SQLite::Database lock(store.fileName().toStdString(), SQLite::OPEN_READWRITE);
+    lock.exec("PRAGMA user_version = 11");
+    EXPECT_EQ(Fork([] { (void)PersistenceController::shared(); }).said.find("newest copy"),
+              std::string::npos)
+        << "a healthy store needs no copy";
 }
 
 TEST_F(NothingLost, WhenTheCopyIsMadeAheadInSteps) {

@@ -27,6 +27,34 @@ QString columnDefinition(const AttributeDescription& attribute) {
     Q_UNREACHABLE();
 }
 
+/// The condition that a column holds what its attribute cannot have; tables of other programs may.
+QString wrongness(const AttributeDescription& attribute) {
+    const QString none = attribute.isOptional ? QStringLiteral("%1 IS NOT NULL AND ") : QString();
+    QString wrong;
+    switch (attribute.type) {
+    case AttributeType::integer32:
+        wrong = QStringLiteral("(typeof(%1) <> 'integer' OR "
+                               "%1 NOT BETWEEN -2147483648 AND 2147483647)");
+        break;
+    case AttributeType::boolean:
+    case AttributeType::date:
+        wrong = QStringLiteral("typeof(%1) <> 'integer'");
+        break;
+    case AttributeType::string:
+        wrong = QStringLiteral("typeof(%1) <> 'text'");
+        break;
+    case AttributeType::uuid: {
+        QStringList groups;
+        for (const int digits : {8, 4, 4, 4, 12})
+            groups.append(QStringLiteral("[0-9A-Fa-f]").repeated(digits));
+        const QString form = groups.join(u'-');
+        wrong = u"(typeof(%1) <> 'text' OR %1 NOT GLOB '" + form + u"' AND %1 NOT GLOB '{" + form +
+                u"}')";
+    }
+    }
+    return QString(none + wrong).arg(quoted(attribute.name));
+}
+
 } // namespace
 
 EntityTable::EntityTable(const EntityDescription& entity) : name(quoted(entity.name)) {
@@ -46,6 +74,10 @@ EntityTable::EntityTable(const EntityDescription& entity) : name(quoted(entity.n
     }
     selection = u"SELECT " + columns.join(u',') + u" FROM " + name + u" WHERE pk = ?";
     everything = u"SELECT " + columns.join(u',') + u",pk FROM " + name + u" ORDER BY pk";
+    wrongValue = QStringLiteral("SELECT pk, CASE");
+    for (const AttributeDescription& attribute : entity.attributes)
+        wrongValue += u" WHEN " + wrongness(attribute) + u" THEN '" + attribute.name + u'\'';
+    wrongValue += u" END AS wrong FROM " + name + u" WHERE wrong IS NOT NULL LIMIT 1";
     insertion = u"INSERT INTO " + name + u" (" + columns.join(u',') + u",pk) VALUES (" +
                 QStringLiteral("?,").repeated(columns.size()) + u"?)";
     update =

@@ -21,6 +21,8 @@ struct EntityTable {
     QString selection;
     /// The columns and the identity of every record, by identity.
     QString everything;
+    /// The first record with a value that its attribute cannot have, and the attribute's name.
+    QString wrongValue;
     /// Takes the columns' values, then the identity.
     QString insertion;
     /// Takes the columns' values, then the identity.

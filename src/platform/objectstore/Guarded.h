@@ -3,6 +3,7 @@
 #include "platform/objectstore/file/StoreError.h"
 
 #include <SQLiteCpp/Exception.h>
+#include <sqlite3.h>
 
 namespace kovamo {
 
@@ -12,7 +13,9 @@ auto guarded(const QString& path, Work work) {
     try {
         return work();
     } catch (const SQLite::Exception& error) {
-        fail(QString::fromUtf8(error.what()), error.getExtendedErrorCode(), path);
+        const int code = error.getErrorCode();
+        fail(QString::fromUtf8(error.what()), error.getExtendedErrorCode(), path,
+             code == SQLITE_CORRUPT || code == SQLITE_NOTADB);
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include <QDeadlineTimer>
 #include <QFileInfo>
+#include <QRandomGenerator>
 #include <QThread>
 #include <algorithm>
 #include <limits>
@@ -49,7 +50,7 @@ Store::Store(const QString& path, const EntityDescription& entity, Access access
     if (access == Access::read && !QFileInfo(path).isFile())
         fail(QStringLiteral("There is no store"), SQLITE_CANTOPEN, path);
     if (isEmptied(path))
-        fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path);
+        fail(QStringLiteral("The store has lost its content"), SQLITE_CORRUPT, path, true);
     if (access == Access::readAndWrite)
         makeStoreFile(path);
     guarded(path, [&] { open(); });
@@ -93,7 +94,7 @@ Store::~Store() {
             return;
         }
         // A file that was damaged meanwhile is not written to.
-        if (!faultOf(*m_database).isEmpty())
+        if (!faultOf(*m_database).isEmpty() || !wrongRecord().isEmpty())
             return;
         checkpointOnClose(true);
         // If another process has the store open, the log stays and nothing is sealed.
@@ -121,9 +122,22 @@ void Store::refuseDamaged() const {
     if (isSealed(*m_database, m_path) || QFileInfo(m_path).size() == 0)
         return;
     if (const QString fault = faultOf(*m_database); !fault.isEmpty())
-        fail(fault, SQLITE_CORRUPT, m_path);
+        fail(fault, SQLITE_CORRUPT, m_path, true);
+    if (const QString wrong = wrongRecord(); !wrong.isEmpty())
+        fail(wrong, SQLITE_MISMATCH, m_path);
     if (m_access == Access::readAndWrite)
         seal(*m_database, m_path);
+}
+
+QString Store::wrongRecord() const {
+    if (!isMade())
+        return {};
+    const auto found = m_statements->use(m_table.wrongValue);
+    if (!found->executeStep())
+        return {};
+    return QStringLiteral("The record %1 has a wrong %2")
+        .arg(QString::fromUtf8(found->getColumn(0).getText()),
+             QString::fromUtf8(found->getColumn(1).getText()));
 }
 
 bool Store::isMade() const {
@@ -141,6 +155,9 @@ void Store::createSchema() {
     for (const QString& definition : m_table.definitions)
         m_database->exec(utf8(definition));
     m_database->exec("PRAGMA user_version = " + std::to_string(schemaVersion));
+    // Tells the copies of this store from those of another that was here before.
+    m_database->exec("PRAGMA application_id = " +
+                     std::to_string(QRandomGenerator::global()->bounded(1, 0x7fffffff)));
     transaction.commit();
 }
 

@@ -24,9 +24,9 @@ class Store {
     enum class Access { read, readAndWrite };
 
     /// Opens the store at `path`, or makes it, readable and writable by its owner only. A file
-    /// that is no store, is damaged or comes from a newer version is refused. Until the first
-    /// write, any file is left byte for byte as it is. Only to read, a file that is not there is
-    /// refused, too, and write() is not allowed.
+    /// that is no store, is damaged, comes from a newer version or holds a value that its attribute
+    /// cannot have is refused. Until the first write, any file is left byte for byte as it is. Only
+    /// to read, a file that is not there is refused, too, and write() is not allowed.
     Store(const QString& path, const EntityDescription& entity,
           Access access = Access::readAndWrite);
     ~Store();
@@ -88,6 +88,7 @@ class Store {
     void checkpointOnClose(bool checkpoints);
     void refuseNewer() const;
     void refuseDamaged() const;
+    [[nodiscard]] QString wrongRecord() const;
     [[nodiscard]] bool isMade() const;
     void createSchema();
     void prepareToWrite();

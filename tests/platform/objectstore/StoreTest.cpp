@@ -76,6 +76,27 @@ TEST(Store, RefusesWhatIsNotItsOwnAndLeavesItAlone) {
     EXPECT_EQ(failure(), u"Is a directory");
     ASSERT_TRUE(QDir().rmdir(path));
     EXPECT_EQ(failure(), QString()) << "a missing store is made";
+    ASSERT_TRUE(QFile::rename(path, path + u"-wal"));
+    EXPECT_EQ(failure(), u"The store has lost its content") << "its log may hold what was saved";
+    EXPECT_TRUE(QFile::exists(path + u"-wal"));
+}
+
+TEST(Store, RefusesAWrongValueInTheTableOfAnotherProgram) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"amount = 'many'", "amount"},       {"amount = 3000000000", "amount"},
+        {"isPositive = NULL", "isPositive"}, {"startDate = 1.5", "startDate"},
+        {"title = x'00'", "title"},          {"id = 'none'", "id"},
+    };
+    for (const auto& [fault, attribute] : cases) {
+        const World world;
+        const Book book({{1}});
+        const QString id = QString::number(book.all()[0]->objectID());
+        book.elsewhere("CREATE TABLE copy AS SELECT * FROM \"Transaction\";"
+                       "DROP TABLE \"Transaction\"; ALTER TABLE copy RENAME TO \"Transaction\"");
+        EXPECT_EQ(failure(), QString()) << "without a fault it is as good as the app's";
+        book.elsewhere(std::string("UPDATE \"Transaction\" SET ") + fault);
+        EXPECT_EQ(failure(), u"The record " + id + u" has a wrong " + QLatin1String(attribute));
+    }
 }
 
 } // namespace

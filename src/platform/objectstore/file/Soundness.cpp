@@ -57,6 +57,9 @@ bool hasLog(const QString& path) {
 
 bool isEmptied(const QString& path) {
     const QFileInfo file(path);
+    // SQLite deletes the log of a store that is not there: the last saves may be in it alone.
+    if (!file.exists() && hasLog(path))
+        return true;
     if (!file.exists())
         QFile::remove(sealPath(path));
     // SQLite deletes a log that lies beside an empty file: look before it opens the file.

@@ -17,8 +17,8 @@ namespace kovamo {
 /// Whether a part of the database at `path` lies in a log beside it.
 [[nodiscard]] bool hasLog(const QString& path);
 
-/// Whether the file at `path` was sealed once and is empty now. Where there is no file, the seal
-/// is forgotten: whoever removes a store wants a new one.
+/// Whether the file at `path` was sealed once and is empty now, or has gone and left its log. Where
+/// there is neither, the seal is forgotten: whoever removes a store wants a new one.
 [[nodiscard]] bool isEmptied(const QString& path);
 
 /// Remembers the content of a database's file, which is at `path`, as sound, in a file beside it,

@@ -16,9 +16,11 @@ QString StoreError::userInfoDescription() const {
     return QStringLiteral("[%1]").arg(entries.join(QStringLiteral(", ")));
 }
 
-void fail(const QString& description, int code, const QString& path) {
-    throw StoreError(description, {{QStringLiteral("code"), QString::number(code)},
-                                   {QStringLiteral("path"), path}});
+void fail(const QString& description, int code, const QString& path, bool isDamage) {
+    throw StoreError(
+        description,
+        {{QStringLiteral("code"), QString::number(code)}, {QStringLiteral("path"), path}},
+        isDamage);
 }
 
 } // namespace kovamo

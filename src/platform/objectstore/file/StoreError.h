@@ -9,11 +9,15 @@ namespace kovamo {
 /// What an operation on the store fails with.
 class StoreError : public std::exception {
   public:
-    StoreError(QString description, std::map<QString, QString> userInfo)
-        : m_description(std::move(description)), m_userInfo(std::move(userInfo)) {}
+    StoreError(QString description, std::map<QString, QString> userInfo, bool isDamage = false)
+        : m_description(std::move(description)), m_userInfo(std::move(userInfo)),
+          m_isDamage(isDamage) {}
 
     /// What went wrong, in the store's words.
     [[nodiscard]] const QString& description() const { return m_description; }
+
+    /// Whether the file has lost what it held, so that a copy of it is of use.
+    [[nodiscard]] bool isDamage() const { return m_isDamage; }
 
     /// The file that it is about; empty where it names none.
     [[nodiscard]] QString path() const;
@@ -26,9 +30,11 @@ class StoreError : public std::exception {
   private:
     QString m_description;
     std::map<QString, QString> m_userInfo;
+    bool m_isDamage;
 };
 
 /// Throws the StoreError of a file: what went wrong, the system's or SQLite's code, and the file.
-[[noreturn]] void fail(const QString& description, int code, const QString& path);
+[[noreturn]] void fail(const QString& description, int code, const QString& path,
+                       bool isDamage = false);
 
 } // namespace kovamo

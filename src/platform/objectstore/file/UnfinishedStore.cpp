@@ -1,6 +1,7 @@
 #include "UnfinishedStore.h"
 
 #include <QFile>
+#include <QtEndian>
 #include <SQLiteCpp/Exception.h>
 #include <cstdio>
 #include <fcntl.h>
@@ -15,13 +16,21 @@ namespace {
     throw SQLite::Exception(what, SQLITE_IOERR);
 }
 
-/// Writes the two versions of the file format in the database's header: those without a log.
-void completeAlone(const QString& path) {
+// Where a database's header has the two versions of its format, and the number that tells what the
+// database is for ("PRAGMA application_id").
+constexpr off_t formatVersions = 18;
+constexpr off_t applicationID = 68;
+
+void completeAlone(const QString& path, std::optional<std::uint32_t> mark) {
     constexpr char rollback[]{1, 1};
-    constexpr off_t formatVersions = 18;
     const int file = ::open(QFile::encodeName(path).constData(), O_WRONLY | O_CLOEXEC);
-    const ssize_t written = ::pwrite(file, rollback, sizeof rollback, formatVersions);
-    const bool isComplete = written == sizeof rollback && ::fsync(file) == 0;
+    bool isComplete = ::pwrite(file, rollback, sizeof rollback, formatVersions) == sizeof rollback;
+    if (mark) {
+        const std::uint32_t bytes = qToBigEndian(*mark);
+        isComplete =
+            isComplete && ::pwrite(file, &bytes, sizeof bytes, applicationID) == sizeof bytes;
+    }
+    isComplete = isComplete && ::fsync(file) == 0;
     ::close(file);
     if (!isComplete)
         fail("The copy cannot be completed");
@@ -41,11 +50,21 @@ UnfinishedStore::~UnfinishedStore() {
     QFile::remove(m_path);
 }
 
-void UnfinishedStore::finish(const QString& path) {
-    completeAlone(m_path);
+void UnfinishedStore::finish(const QString& path, std::optional<std::uint32_t> mark) {
+    completeAlone(m_path, mark);
     if (std::rename(QFile::encodeName(m_path).constData(), QFile::encodeName(path).constData()) !=
         0)
         fail("The copy cannot be given its name");
+}
+
+std::optional<std::uint32_t> UnfinishedStore::markOf(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(applicationID))
+        return {};
+    const QByteArray bytes = file.read(sizeof(std::uint32_t));
+    if (bytes.size() != sizeof(std::uint32_t))
+        return {};
+    return qFromBigEndian<std::uint32_t>(bytes.constData());
 }
 
 } // namespace kovamo

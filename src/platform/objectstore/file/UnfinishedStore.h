@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QString>
+#include <cstdint>
+#include <optional>
 
 namespace kovamo {
 
@@ -15,10 +17,13 @@ class UnfinishedStore {
 
     [[nodiscard]] const QString& path() const { return m_path; }
 
-    /// Lets the file say that no log belongs to it, as one does to the store's, makes all of it
-    /// last and gives it the name `path`, which another file may have until then. Requires that it
-    /// is closed and holds pages of a store.
-    void finish(const QString& path);
+    /// Lets the file say that no log belongs to it, as one does to the store's, and bear a mark if
+    /// there is one, makes all of it last and gives it the name `path`, which another file may have
+    /// until then. Requires that it is closed and holds pages of a store.
+    void finish(const QString& path, std::optional<std::uint32_t> mark = std::nullopt);
+
+    /// The mark of a store's file; nothing where it cannot be read.
+    [[nodiscard]] static std::optional<std::uint32_t> markOf(const QString& path);
 
   private:
     QString m_path;
