@@ -4,8 +4,9 @@ import QtQuick.Templates as T
 import Kovamo.Controls
 import Kovamo.Desktop
 
-/*! A field for one line of plain text of any length. The owner holds the text: it hears `edited`
-    and sets `text`, to what was typed or to something else. */
+/*! A field for one line of plain text of any length, in a row whose height the text does not
+    change. The owner holds the text: it hears `edited` and sets `text`, to what was typed or to
+    something else. */
 FormRow {
     id: field
 
@@ -27,8 +28,6 @@ FormRow {
         input.text = field.text;
         input.cursorPosition = Math.max(0, input.length - behind);
     }
-
-    contentHeight: input.implicitHeight
 
     onActiveFocusChanged: if (activeFocus)
         input.forceActiveFocus()
