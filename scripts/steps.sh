@@ -3,15 +3,19 @@
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 
+# Where ccache is installed, it keeps the compiler's work.
+if command -v ccache >/dev/null; then
+    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+fi
+
 # A package that releases of Debian call by different names stands with all of them, newest first.
 
-# What the app needs to run: the QML modules that its screens import, the plugins that open a
-# window on Wayland and read SVG pictures, and fonts for every script and for emoji.
-run_packages=(
-    fonts-noto-cjk
+# What the app cannot do without, and its package depends on: the QML modules that its screens
+# import, the plugins that open a window on Wayland and read SVG pictures, and an emoji font.
+app_packages=(
     fonts-noto-color-emoji
-    fonts-noto-core
     qml6-module-qtqml
+    qml6-module-qtqml-models
     qml6-module-qtqml-workerscript
     qml6-module-qtquick
     qml6-module-qtquick-templates
@@ -20,19 +24,20 @@ run_packages=(
     qt6-wayland
 )
 
-build_packages=(
-    cmake
-    g++
+# With fonts for every script.
+run_packages=("${app_packages[@]}" fonts-noto-cjk fonts-noto-core)
+
+library_packages=(
     libcsv-dev
     libicu-dev
     libsqlite3-dev
     libsqlitecpp-dev
     libxxhash-dev
-    ninja-build
     qt6-base-dev
     qt6-declarative-dev
-    unicode-data
 )
+
+build_packages=("${library_packages[@]}" cmake g++ ninja-build unicode-data)
 
 # The accessibility test starts a display and buses of its own; the privacy test traces the app;
 # what reads a journal reads the app's.
@@ -47,8 +52,10 @@ test_packages=(
     xvfb
 )
 
-# The QML checker wants the types of every module that a module in use stands on.
-lint_packages=(clang-format qml6-module-qtqml-models)
+lint_packages=(clang-format)
+
+# Without dpkg-dev and file, a package would not know what it depends on.
+package_packages=(appstream desktop-file-utils dpkg-dev file lintian)
 
 bench_packages=(dbus-daemon gnuplot-nox ledger libbenchmark-dev sqlite3 xvfb)
 
@@ -114,8 +121,7 @@ install_missing() {
 }
 
 # build preset target [option …]: configures, with the options, where that has not been done with
-# the presets as they are, then builds what is out of date. ccache keeps the compiler's work where
-# it is installed.
+# the presets as they are, then builds what is out of date.
 build() {
     local preset=$1 target=$2
     shift 2
@@ -123,11 +129,28 @@ build() {
     (
         cd "$root"
         if [[ ! $recipe -nt CMakePresets.json ]]; then
-            if command -v ccache >/dev/null; then
-                export CMAKE_CXX_COMPILER_LAUNCHER=ccache
-            fi
             cmake --preset "$preset" "$@"
         fi
         cmake --build --preset "$preset" --target "$target"
+    ) >&2
+}
+
+# pack preset: makes the Debian package of what has been built, and checks it.
+pack() {
+    local depends id=org.kovamo.Kovamo
+    depends=$(names_here "${app_packages[@]}" | paste --serial --delimiters=,)
+    (
+        cd "$root/build/$1"
+        rm -f kovamo_*.deb
+        cpack -D CPACK_DEBIAN_PACKAGE_DEPENDS="${depends//,/, }"
+        # Debian 12's validator does not know SingleMainWindow.
+        sed '/^SingleMainWindow=/d' "$root/packaging/$id.desktop" >"$id.desktop"
+        desktop-file-validate "$id.desktop"
+        # There is no home page, which Debian 13's validator warns of.
+        if appstreamcli validate --no-net "$root/packaging/$id.metainfo.xml" |
+            grep '^[EW]:' | grep -v url-homepage-missing; then
+            exit 1
+        fi
+        lintian --display-info --fail-on error,warning kovamo_*.deb
     ) >&2
 }
