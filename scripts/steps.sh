@@ -11,7 +11,8 @@ fi
 # A package that releases of Debian call by different names stands with all of them, newest first.
 
 # What the app cannot do without, and its package depends on: the QML modules that its screens
-# import, the plugins that open a window on Wayland and read SVG pictures, and an emoji font.
+# import, the plugins that open a window on Wayland and read SVG pictures, an emoji font, and the
+# rules of the time zones.
 app_packages=(
     fonts-noto-color-emoji
     qml6-module-qtqml
@@ -22,6 +23,7 @@ app_packages=(
     qml6-module-qtquick-window
     'qt6-svg-plugins|libqt6svg6'
     qt6-wayland
+    tzdata
 )
 
 # With fonts for every script.
@@ -48,7 +50,6 @@ test_packages=(
     ledger
     libgtest-dev
     strace
-    'tzdata-legacy|tzdata'
     xvfb
 )
 

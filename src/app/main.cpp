@@ -7,6 +7,7 @@
 #include "SoleInstance.h"
 #include "command/CommandLine.h"
 #include "platform/desktop/DesktopSettings.h"
+#include "platform/foundation/Calendar.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QGuiApplication>
@@ -111,6 +112,7 @@ int main(int argc, char** argv) {
     // Nobody may read what is printed: a write then fails instead of ending the process.
     std::signal(SIGPIPE, SIG_IGN);
     KovamoApp::describe();
+    followHostTimeZone();
     const QStringList arguments = argumentsOf(argc, argv);
     if (const std::optional<int> status = runCommand(arguments))
         return *status;

@@ -6,8 +6,6 @@
 #include "platform/foundation/Calendar.h"
 #include "platform/foundation/Formatters.h"
 
-#include <unicode/timezone.h>
-
 using namespace kovamo;
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -17,7 +15,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
         input.ConsumeIntegralInRange<std::int64_t>(-5'364'662'400'000, 7'258'118'400'000)));
     qputenv("TZ", input.ConsumeRandomLengthString(40).c_str());
     qputenv("LC_ALL", input.ConsumeRemainingBytesAsString().c_str());
-    icu::TimeZone::adoptDefault(icu::TimeZone::detectHostTimeZone());
+    followHostTimeZone();
     Clock::setSource([now] { return now; });
 
     for (const TimeFrame timeFrame : {0, 1, 2, 3}) {

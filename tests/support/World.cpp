@@ -1,13 +1,13 @@
 #include "World.h"
 
 #include "platform/foundation/Bundle.h"
+#include "platform/foundation/Calendar.h"
 #include "platform/foundation/UserDefaults.h"
 
 #include <QDir>
 #include <QFile>
 #include <unicode/gregocal.h>
 #include <unicode/smpdtfmt.h>
-#include <unicode/timezone.h>
 
 namespace kovamo {
 
@@ -16,8 +16,8 @@ World::World(const char* local, const char* zone, const char* locale) {
     Bundle::main().setInfoDictionary({{kCFBundleNameKey, QStringLiteral("App")},
                                       {kCFBundleIdentifierKey, QStringLiteral("org.example.App")},
                                       {kCFBundleVersionKey, QStringLiteral("17")}});
-    icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(zone));
     qputenv("TZ", zone);
+    followHostTimeZone();
     qputenv("LC_ALL", locale);
     for (const char* variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"}) {
         const QString folder = m_folder.filePath(QString::fromLatin1(variable).toLower());

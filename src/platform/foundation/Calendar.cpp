@@ -2,6 +2,7 @@
 
 #include "FatalError.h"
 #include "Locale.h"
+#include "SystemTimeZone.h"
 
 namespace kovamo {
 
@@ -16,12 +17,13 @@ void require(UErrorCode status) {
 } // namespace
 
 bool followHostTimeZone() {
-    std::unique_ptr<icu::TimeZone> host(icu::TimeZone::detectHostTimeZone());
+    const std::unique_ptr<icu::TimeZone> named(icu::TimeZone::detectHostTimeZone());
+    icu::UnicodeString id;
+    auto host = std::make_unique<SystemTimeZone>(named->getID(id));
     const std::unique_ptr<icu::TimeZone> before(icu::TimeZone::createDefault());
-    if (!host || *host == *before)
-        return false;
+    const bool isAnother = *host != *before;
     icu::TimeZone::adoptDefault(host.release());
-    return true;
+    return isAnother;
 }
 
 Calendar::Calendar() {

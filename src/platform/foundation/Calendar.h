@@ -19,8 +19,9 @@ struct CalendarDay {
     friend bool operator==(const CalendarDay&, const CalendarDay&) = default;
 };
 
-/// Takes the time zone that the device has now, for all calendars and dates' texts from then on;
-/// until then they have that of the start. Returns whether it is another one than before.
+/// Takes the time zone that the device has now, by the system's rules, for all calendars and dates'
+/// texts from then on. Every program calls it before it asks for the first. Returns whether it is
+/// another one than before.
 bool followHostTimeZone();
 
 /// The user's current calendar and time zone, as they are when the value is made. Months and
