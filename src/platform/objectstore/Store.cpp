@@ -338,7 +338,7 @@ bool Store::isReplaced() const {
 }
 
 bool Store::isThere() const {
-    return identityOf(m_path) != FileIdentity();
+    return QFileInfo(m_path).size() > 0;
 }
 
 void Store::reopen() {
