@@ -35,6 +35,11 @@ OnScreenKeyboard::OnScreenKeyboard(const QDBusConnection& bus) : m_bus(bus) {
     watch(QGuiApplication::focusObject());
 }
 
+OnScreenKeyboard::~OnScreenKeyboard() {
+    if (m_visible)
+        setVisible(false);
+}
+
 void OnScreenKeyboard::watch(QObject* focused) {
     if (m_field)
         m_field->removeEventFilter(this);

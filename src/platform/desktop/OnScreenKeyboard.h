@@ -14,6 +14,9 @@ class OnScreenKeyboard : public QObject {
   public:
     /// Asks on `bus` without waiting; where nobody offers a keyboard there, nothing happens.
     explicit OnScreenKeyboard(const QDBusConnection& bus = QDBusConnection::sessionBus());
+    /// Sends the keyboard away.
+    ~OnScreenKeyboard() override;
+    Q_DISABLE_COPY_MOVE(OnScreenKeyboard)
 
     /// Whether the keyboard is for the app to call: on Wayland, with a Qt older than the protocol
     /// by which compositors learn of text fields, and no input method named in the environment.

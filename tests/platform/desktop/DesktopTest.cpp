@@ -72,7 +72,7 @@ class Keyboard : public QObject {
 TEST(OnScreenKeyboard, ComesAndGoesWithTheFieldThatHasTheFocus) {
     Keyboard keyboard;
     Bus bus(QStringLiteral("sm.puri.OSK0"), QStringLiteral("/sm/puri/OSK0"), keyboard);
-    const OnScreenKeyboard caller(bus.app);
+    auto caller = std::make_unique<OnScreenKeyboard>(bus.app);
     Stage stage(R"(
         FormTextField { objectName: "first"; next: second; width: 300 }
         FormTextField { id: second; objectName: "second"; width: 300; y: 100 })",
@@ -87,6 +87,10 @@ TEST(OnScreenKeyboard, ComesAndGoesWithTheFieldThatHasTheFocus) {
     called("++");
     stage.press(Qt::Key_Return);
     called("++-");
+    stage.click(stage.item("first"));
+    called("++-+");
+    caller.reset();
+    called("++-+-");
     EXPECT_FALSE(OnScreenKeyboard::isCalledByApp()) << "only a phone's compositor shows one";
 }
 
