@@ -22,7 +22,7 @@ Window {
     // moved, and a phone has no room for it.
     flags: Qt.platform.pluginName.startsWith("wayland") && fillsScreen ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
     height: 844
-    minimumHeight: 180
+    minimumHeight: 120
     minimumWidth: 320
     title: qsTr("Kovamo")
     visible: true
