@@ -15,11 +15,14 @@ fi
 # of the time zones.
 app_packages=(
     fonts-noto-color-emoji
+    qml6-module-qt-labs-folderlistmodel
     qml6-module-qtqml
     qml6-module-qtqml-models
     qml6-module-qtqml-workerscript
     qml6-module-qtquick
+    qml6-module-qtquick-controls
     qml6-module-qtquick-dialogs
+    qml6-module-qtquick-layouts
     qml6-module-qtquick-templates
     qml6-module-qtquick-window
     'qt6-svg-plugins|libqt6svg6'

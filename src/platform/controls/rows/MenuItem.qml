@@ -41,6 +41,6 @@ T.MenuItem {
         color: item.tint
         height: 20
         name: item.symbol
-        width: 20
+        width: name === "" ? 0 : 20
     }
 }
