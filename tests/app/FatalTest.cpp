@@ -47,8 +47,8 @@ TEST(FatalError, IsShownByTheDesktopAndLeavesNoCore) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return app.state() == QProcess::NotRunning; }, 60000));
     EXPECT_EQ(app.exitStatus(), QProcess::CrashExit);
     const QString id = book.all().at(0)->id()->toString(QUuid::WithoutBraces);
-    for (const QString& part : {id, QStringLiteral("title"), QStringLiteral("kovamo check"),
-                                book.container.storePath()})
+    for (const QString& part :
+         {id, QStringLiteral("title"), QStringLiteral("kovamo check"), book.container.storePath()})
         EXPECT_TRUE(desktop.shown.contains(part)) << part.toStdString();
     EXPECT_TRUE(app.readAllStandardError().contains("has no title"));
     EXPECT_TRUE(QDir(World::folder()).entryList({"core*"}, QDir::Files).isEmpty());

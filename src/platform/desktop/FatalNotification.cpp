@@ -25,15 +25,16 @@ void notify(const QString& message) {
     if (!body.contains(path()))
         body += u"\nIts store is " + path();
     const QString service = QStringLiteral("org.freedesktop.Notifications");
-    QDBusMessage call = QDBusMessage::createMethodCall(
-        service, QStringLiteral("/org/freedesktop/Notifications"), service,
-        QStringLiteral("Notify"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(service, QStringLiteral("/org/freedesktop/Notifications"),
+                                       service, QStringLiteral("Notify"));
     call << name << 0U << identifier << QStringLiteral("%1 had to stop").arg(name)
          << body.toHtmlEscaped() << QStringList()
          << QVariantMap{{QStringLiteral("urgency"), QVariant::fromValue(critical)},
                         {QStringLiteral("desktop-entry"), identifier}}
          << 0;
-    // A connection of its own: the error may have come up in the middle of a call on the shared one.
+    // A connection of its own: the error may have come up in the middle of a call on the shared
+    // one.
     QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("fatal"))
         .call(call, QDBus::Block, milliseconds);
 }
