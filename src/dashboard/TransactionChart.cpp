@@ -7,6 +7,7 @@
 #include "model/Transaction.h"
 #include "platform/foundation/Formatters.h"
 #include "platform/foundation/RadixSort.h"
+#include "platform/foundation/ShownText.h"
 #include "platform/views/ShapeViews.h"
 
 #include <algorithm>
@@ -118,7 +119,7 @@ QString TransactionChart::columnText(int column) const {
         return {};
     const TransactionPresentation& transaction = transactions[column];
     return QStringLiteral("%1\n%2\n%3")
-        .arg(QString(required(transaction.id, transaction.title, "title")).replace(u'\n', u' '),
+        .arg(shownText(required(transaction.id, transaction.title, "title")),
              signedAmount(transaction.isPositive, transaction.amount),
              localizedDateText(required(transaction.id, transaction.startDate, "startDate"),
                                QStringLiteral("yMMMd")));

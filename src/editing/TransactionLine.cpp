@@ -2,8 +2,15 @@
 
 #include "model/Transaction.h"
 #include "platform/foundation/Formatters.h"
+#include "platform/foundation/ShownText.h"
 
 namespace kovamo {
+
+namespace {
+
+constexpr qsizetype longestEmoji = 100;
+
+} // namespace
 
 QString formattedAmount(std::int32_t amount) {
     return currencyText(amount);
@@ -14,7 +21,7 @@ QString signedAmount(bool isPositive, std::int32_t amount) {
 }
 
 QString deletionSentence(const TransactionPresentation& deleted) {
-    const QString title = deleted.title.value_or(QString()).simplified();
+    const QString title = shownText(deleted.title.value_or(QString())).simplified();
     if (deleted.isRecurring != true || !deleted.recurringType || !deleted.startDate)
         return title + u" deleted";
     return title + u", " + *deleted.recurringType + u" since " +
@@ -22,8 +29,8 @@ QString deletionSentence(const TransactionPresentation& deleted) {
 }
 
 TransactionLine::TransactionLine(const TransactionPresentation& transaction)
-    : emoji(required(transaction.id, transaction.emoji, "emoji")),
-      title(required(transaction.id, transaction.title, "title")),
+    : emoji(shownText(required(transaction.id, transaction.emoji, "emoji"), longestEmoji)),
+      title(shownText(required(transaction.id, transaction.title, "title"))),
       isRecurring(transaction.isRecurring == true) {
     const QString money = formattedAmount(transaction.amount);
     amount = withDirection(transaction.isPositive, money);

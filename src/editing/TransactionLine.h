@@ -33,6 +33,7 @@ struct TransactionLine {
     /// A transaction without emoji or title is a fatal error.
     explicit TransactionLine(const TransactionPresentation& transaction);
 
+    /// As much of both as a row can show.
     QString emoji;
     QString title;
     bool isRecurring = false;

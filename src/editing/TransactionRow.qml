@@ -17,6 +17,8 @@ Item {
     readonly property real roomBeside: room - amountText.width - Metrics.step * 2
     readonly property bool stacked: TextStyles.isLarge && titleText.implicitWidth > roomBeside
 
+    // Accents can be piled up over the rows around.
+    clip: true
     implicitHeight: Math.max(Metrics.rowHeight, titleText.height + (stacked ? amountText.height : 0) + Metrics.step * 4)
 
     EmojiText {

@@ -26,6 +26,25 @@ TEST(TransactionsView, BearsThatWhatItShowsIsDeletedElsewhere) {
     EXPECT_EQ(Book().amounts(), (std::vector{2, 3}));
 }
 
+TEST(TransactionLine, HoldsNoMoreThanARowCanShow) {
+    const QString longest(500, u'w'), pairs = QStringLiteral("👩‍🚀").repeated(200);
+    const std::pair<QString, QString> cases[] = {
+        {longest, longest},
+        {longest + u'w', longest + u'…'},
+        {QString(50'000'000, u'w'), longest + u'…'},
+        {u'w' + pairs, u'w' + pairs.first(495) + u'…'},
+        {QString(5000, QChar(0x301)), QString(500, QChar(0x301)) + u'…'},
+        {QStringLiteral("a\nb\r\u2028c"), QStringLiteral("a b  c")}};
+    for (const auto& [title, shown] : cases) {
+        TransactionPresentation transaction;
+        transaction.emoji = title;
+        transaction.title = title;
+        const TransactionLine line(transaction);
+        EXPECT_EQ(line.title, shown);
+        EXPECT_LE(line.emoji.size() + line.sentence.size(), 700);
+    }
+}
+
 TEST(TransactionsViewDeathTest, StopsOverARecordThatCannotBeShown) {
     Book book({{5}});
     book.all().at(0)->setEmoji({});

@@ -22,12 +22,20 @@ FormRow {
     /*! The user changed the text to `text`. */
     signal edited(string text)
 
+    /*! The end of a text that is longer than Qt can lay out in a moment. Such a text can be cleared,
+        but not edited: who replaced its beginning would keep an end that does not show. */
+    property string unseen
+    readonly property int longest: 100000
+
     // Characters that the owner rejects lie before the caret: keep its distance from the end.
     function follow() {
-        if (input.text === field.text)
+        if (input.text + unseen === field.text)
             return;
         const behind = input.length - input.cursorPosition;
-        input.text = field.text;
+        // The two halves of a surrogate pair stay together.
+        const end = field.text.charCodeAt(longest - 1) >> 10 === 0x36 ? longest - 1 : longest;
+        unseen = field.text.slice(end);
+        input.text = field.text.slice(0, end);
         input.cursorPosition = Math.max(0, input.length - behind);
     }
 
@@ -66,6 +74,7 @@ FormRow {
         leftPadding: halfCaret
         inputMethodHints: field.numeric ? Qt.ImhDigitsOnly : Qt.ImhNone
         maximumLength: 2147483647
+        readOnly: field.unseen !== ""
         rightPadding: halfCaret
         selectByMouse: true
         selectedTextColor: SystemColors.white

@@ -47,6 +47,12 @@ TEST(FormTextField, TakesAnyText) {
     }
     stage.click(QPoint(390 - 16 - 9, 22));
     EXPECT_EQ(stage.get("title"), QVariant(""));
+    const QString giant(50'000'000, QLatin1Char('w'));
+    stage.set("title", giant);
+    type(QStringLiteral("x"));
+    EXPECT_TRUE(stage.get("title").toString() == giant) << "nothing is changed behind the end";
+    const QQuickItem* input = stage.window()->activeFocusItem();
+    EXPECT_LE(input->property("length").toInt(), 100'000);
 }
 
 TEST(SegmentedControl, ProposesAndItsOwnerChooses) {
