@@ -1,6 +1,7 @@
 #include "FilteredList.h"
 
 #include "editing/TransactionLine.h"
+#include "ledger/Recurrence.h"
 
 #include <algorithm>
 #include <utility>
@@ -57,7 +58,8 @@ QVariant FilteredList::data(const QModelIndex& index, int role) const {
     const TransactionPresentation& row = m_rows.at(index.row());
     switch (role) {
     case LineRole:
-        return QVariant::fromValue(TransactionLine(row));
+        return QVariant::fromValue(
+            TransactionLine(row, timesCounted(row, m_transactionContainer->months())));
     case HasDividerRole:
         return row != m_rows.back();
     default:

@@ -28,6 +28,11 @@ std::int32_t largestAmount(const QList<TransactionPresentation>& transactions) {
     return std::ranges::max_element(transactions, {}, &TransactionPresentation::amount)->amount;
 }
 
+/// "1 earning", "2 earnings".
+QString counted(std::int64_t count, const char* what) {
+    return numberText(count) + u' ' + QLatin1String(what) + QLatin1String(count == 1 ? "" : "s");
+}
+
 AnyView layer(const QList<double>& data, SystemColor top) {
     const LinearGradient gradient{{{top}, {SystemColor::yellow}}};
     const ColumnChartStyle style{FilledShape{Capsule{}, gradient}, columnSpacing};
@@ -86,8 +91,9 @@ QString TransactionChart::sentence() const {
         return {};
     const auto earnings =
         std::ranges::count(transactions, true, &TransactionPresentation::isPositive);
-    return QStringLiteral("%1, %2: %3 earnings, %4 spendings, largest amount %5")
-        .arg(title(), dates(), numberText(earnings), numberText(transactions.size() - earnings),
+    return QStringLiteral("%1, %2: %3, %4, largest amount %5")
+        .arg(title(), dates(), counted(earnings, "earning"),
+             counted(transactions.size() - earnings, "spending"),
              formattedAmount(largestAmount(transactions)));
 }
 

@@ -10,6 +10,15 @@ namespace {
 
 constexpr qsizetype longestEmoji = 100;
 
+/// How often it recurs, or its day.
+QString timeText(const TransactionPresentation& transaction) {
+    if (transaction.isRecurring == true)
+        return transaction.recurringType.value_or(QString());
+    return transaction.startDate
+               ? localizedDateText(*transaction.startDate, QStringLiteral("yMMMd"))
+               : QString();
+}
+
 } // namespace
 
 QString formattedAmount(std::int32_t amount) {
@@ -28,15 +37,18 @@ QString deletionSentence(const TransactionPresentation& deleted) {
            localizedDateText(*deleted.startDate, QStringLiteral("y")) + u", deleted";
 }
 
-TransactionLine::TransactionLine(const TransactionPresentation& transaction)
+TransactionLine::TransactionLine(const TransactionPresentation& transaction, std::int32_t times)
     : emoji(shownText(required(transaction.id, transaction.emoji, "emoji"), longestEmoji)),
       title(shownText(required(transaction.id, transaction.title, "title"))),
       isRecurring(transaction.isRecurring == true) {
     const QString money = formattedAmount(transaction.amount);
     amount = withDirection(transaction.isPositive, money);
-    sentence = QStringLiteral("%1, %2, %3%4")
-                   .arg(title, QLatin1String(transaction.isPositive ? "earning" : "spending"),
-                        money, QLatin1String(isRecurring ? ", recurring" : ""));
+    QStringList parts{title, QLatin1String(transaction.isPositive ? "earning" : "spending"), money,
+                      timeText(transaction)};
+    if (times > 1)
+        parts.append(QStringLiteral("%1 times").arg(numberText(times)));
+    parts.removeAll(QString());
+    sentence = parts.join(QStringLiteral(", "));
 }
 
 } // namespace kovamo

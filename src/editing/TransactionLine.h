@@ -30,8 +30,9 @@ struct TransactionLine {
   public:
     TransactionLine() = default;
 
-    /// A transaction without emoji or title is a fatal error.
-    explicit TransactionLine(const TransactionPresentation& transaction);
+    /// A transaction whose amount counts `times` times. One without emoji or title is a fatal
+    /// error.
+    explicit TransactionLine(const TransactionPresentation& transaction, std::int32_t times = 1);
 
     /// As much of both as a row can show.
     QString emoji;
@@ -39,7 +40,8 @@ struct TransactionLine {
     bool isRecurring = false;
     /// The amount with its direction.
     QString amount;
-    /// The row as a screen reader says it: "Groceries, spending, $42, recurring".
+    /// The row as a screen reader says it: "Salary, earning, $9,600, monthly, 3 times", of a
+    /// one-off with its day: "Cinema, spending, $20, May 15, 2024".
     QString sentence;
 };
 

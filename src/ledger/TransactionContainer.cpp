@@ -51,6 +51,7 @@ void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
 void TransactionContainer::fetchTransactions(TimeFrame timeFrame, ManagedObjectContext& context) {
     Q_EMIT objectWillChange();
     m_transactions.clear();
+    m_slots = monthSlots(timeFrame);
     gatherTransactions(timeFrame, context, m_transactions, [this] { Q_EMIT objectWillChange(); });
     Q_EMIT objectWillChange();
     m_transactions = radixSorted(std::move(m_transactions), [](const auto& transaction) {

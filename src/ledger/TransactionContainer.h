@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <functional>
+#include <vector>
 
 namespace kovamo {
 
@@ -27,6 +28,9 @@ class TransactionContainer : public QObject {
         return m_transactions;
     }
 
+    /// The months of the period that was loaded.
+    [[nodiscard]] const std::vector<MonthSlot>& months() const { return m_slots; }
+
     /// Loads the list afresh; it is complete when this returns.
     void fetchTransactions(TimeFrame timeFrame, ManagedObjectContext& context);
 
@@ -36,6 +40,7 @@ class TransactionContainer : public QObject {
 
   private:
     QList<TransactionPresentation> m_transactions;
+    std::vector<MonthSlot> m_slots;
 };
 
 } // namespace kovamo

@@ -208,7 +208,7 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
     Visit visit(book);
     visit.click("Add Item", "Shows all transactions");
     EXPECT_TRUE(visit.shows("- $500"));
-    visit.click("title, earning, $300");
+    visit.click("title, earning, $300, May 15, 2024");
     EXPECT_TRUE(visit.shows("Edit Transaction"));
     visit.write("Title", "!");
     World::setTime("2024-05-16 10:00");
@@ -218,7 +218,7 @@ TEST_F(App, EditsARecordFromTheListOfAll) {
     EXPECT_EQ(record.id(), id);
     EXPECT_EQ(record.timestamp(), at("2024-05-16 10:00"));
 
-    visit.click("title!, earning, $300");
+    visit.click("title!, earning, $300, May 15, 2024");
     visit.write("Title", "?");
     visit.drag({5, 400}, {100, 0});
     EXPECT_TRUE(visit.shows("Edit Transaction")) << "a short drag from the edge comes back";
@@ -240,12 +240,12 @@ TEST_F(App, GoesOnWithASheetThatIsCaughtOnItsWayOut) {
     Book book({{300}});
     Visit visit(book);
     visit.press(Qt::Key_L, Qt::ControlModifier);
-    visit.click("title, earning, $300");
+    visit.click("title, earning, $300, May 15, 2024");
     EXPECT_TRUE(visit.shows("Edit Transaction"));
     visit.catchWith([&] { visit.clickBesideTheSheet(); }, Qt::Key_L);
     visit.write("Title", "!");
     visit.press(Qt::Key_S, Qt::ControlModifier);
-    EXPECT_TRUE(visit.has("title!, earning, $300"));
+    EXPECT_TRUE(visit.has("title!, earning, $300, May 15, 2024"));
     visit.press(Qt::Key_Escape);
 
     visit.press(Qt::Key_N, Qt::ControlModifier);
@@ -291,7 +291,7 @@ TEST_F(App, SeesADeletionUnderTheSheet) {
     visit.press(Qt::Key_L, Qt::ControlModifier);
     visit.press(Qt::Key_Delete);
     EXPECT_TRUE(visit.has("Your Kovamo is negative 💔. Balance minus $20"));
-    EXPECT_TRUE(visit.lacks("title, earning, $300"));
+    EXPECT_TRUE(visit.lacks("title, earning, $300, May 15, 2024"));
     visit.press(Qt::Key_Delete);
     visit.press(Qt::Key_Escape);
     EXPECT_TRUE(visit.has("🙄 create a transaction"));

@@ -16,7 +16,7 @@ TEST(TransactionChart, SaysItsFrameAndRange) {
     EXPECT_EQ(TransactionChart(book.context, 2).title(), u"3 Months");
     const TransactionChart year(book.context, 3);
     EXPECT_EQ(year.range(), u"**03/01/24 - 02/28/25**");
-    EXPECT_EQ(year.sentence(), u"12 Months, 03/01/24 - 02/28/25: 1 earnings, 1 spendings, largest "
+    EXPECT_EQ(year.sentence(), u"12 Months, 03/01/24 - 02/28/25: 1 earning, 1 spending, largest "
                                "amount $1,200");
     EXPECT_EQ(year.columnText(0), u"title\n+ $1,200\nMar 11, 2024");
     // The Buddhist year of January is that of March; a Persian year ends with March.
