@@ -12,8 +12,11 @@ Item {
     /*! Whether the mark is shown on what recurs. */
     property bool marksRecurring: false
 
+    readonly property real margins: Metrics.padding * 2 + Metrics.step * 2 + (symbol.visible ? symbol.width + Metrics.step * 2 : 0)
+    /*! What is not left for the emoji and the title side by side with the amount. */
+    readonly property real taken: margins + amountText.width + Metrics.step * 2
     /*! The room for the title and the amount, and for the title beside the amount. */
-    readonly property real room: width - emojiText.width - Metrics.padding * 2 - Metrics.step * 2 - (symbol.visible ? symbol.width + Metrics.step * 2 : 0)
+    readonly property real room: width - emojiText.width - margins
     readonly property real roomBeside: room - amountText.width - Metrics.step * 2
     readonly property bool stacked: TextStyles.isLarge && titleText.implicitWidth > roomBeside
 
@@ -29,8 +32,8 @@ Item {
         anchors.verticalCenter: titleText.verticalCenter
         color: SystemColors.label
         font: TextStyles.body
+        maximumWidth: Math.max(row.width / 4, row.width - row.taken - titleText.implicitWidth)
         text: row.line.emoji
-        width: Math.min(implicitWidth, row.width / 4)
     }
     PlainText {
         id: titleText

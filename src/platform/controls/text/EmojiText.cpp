@@ -60,6 +60,7 @@ EmojiText::EmojiText(QQuickItem* parent) : QQuickPaintedItem(parent) {
     for (const auto signal :
          {&EmojiText::textChanged, &EmojiText::fontChanged, &EmojiText::colorChanged})
         connect(this, signal, this, &EmojiText::draw);
+    connect(this, &EmojiText::maximumWidthChanged, this, &EmojiText::fit);
 }
 
 void EmojiText::componentComplete() {
@@ -84,21 +85,28 @@ void EmojiText::draw() {
         m_picture = drawn(m_text, font, m_color, pixelRatio);
         QPixmapCache::insert(key, m_picture);
     }
-    setImplicitSize(m_picture.deviceIndependentSize().width(),
-                    m_picture.deviceIndependentSize().height());
+    fit();
+}
+
+void EmojiText::fit() {
+    const QSizeF whole = m_picture.deviceIndependentSize();
+    m_cut.reset();
+    if (whole.width() > m_maximumWidth) {
+        const QFontMetricsF metrics(fontFor(m_text, m_font));
+        m_cut = metrics.elidedText(m_text, Qt::ElideRight, m_maximumWidth);
+        setImplicitSize(std::ceil(metrics.horizontalAdvance(*m_cut)), whole.height());
+    } else {
+        setImplicitSize(whole.width(), whole.height());
+    }
     update();
 }
 
 void EmojiText::paint(QPainter* painter) {
-    if (width() >= implicitWidth()) {
-        painter->drawPixmap(QPointF(), m_picture);
-        return;
-    }
+    if (!m_cut)
+        return painter->drawPixmap(QPointF(), m_picture);
     painter->setFont(fontFor(m_text, m_font));
     painter->setPen(m_color);
-    const QFontMetricsF metrics(painter->font());
-    painter->drawText(QPointF(0, metrics.ascent()),
-                      metrics.elidedText(m_text, Qt::ElideRight, width()));
+    painter->drawText(QPointF(0, QFontMetricsF(painter->font()).ascent()), *m_cut);
 }
 
 } // namespace kovamo

@@ -5,6 +5,8 @@
 #include <QPixmap>
 #include <QQuickPaintedItem>
 #include <QtQml/qqmlregistration.h>
+#include <limits>
+#include <optional>
 
 namespace kovamo {
 
@@ -12,7 +14,7 @@ namespace kovamo {
 [[nodiscard]] QString emojiFontFamily();
 
 /// One line of text that is meant to be an emoji, in colour even where the language's own font has
-/// it in black; any other text looks as usual. What is wider than the item is cut with an ellipsis.
+/// it in black; any other text looks as usual.
 /// Qt's Text decodes an emoji's picture several times at each layout: here what looks
 /// alike is drawn once.
 class EmojiText : public QQuickPaintedItem {
@@ -23,6 +25,8 @@ class EmojiText : public QQuickPaintedItem {
     Q_PROPERTY(QFont font MEMBER m_font NOTIFY fontChanged)
     /// Of what is no emoji.
     Q_PROPERTY(QColor color MEMBER m_color NOTIFY colorChanged)
+    /// What is wider ends in an ellipsis, and the item with it.
+    Q_PROPERTY(qreal maximumWidth MEMBER m_maximumWidth NOTIFY maximumWidthChanged)
 
   public:
     explicit EmojiText(QQuickItem* parent = nullptr);
@@ -33,6 +37,7 @@ class EmojiText : public QQuickPaintedItem {
     void textChanged();
     void fontChanged();
     void colorChanged();
+    void maximumWidthChanged();
 
   protected:
     void componentComplete() override;
@@ -40,11 +45,15 @@ class EmojiText : public QQuickPaintedItem {
 
   private:
     void draw();
+    void fit();
 
     QString m_text;
     QFont m_font;
     QColor m_color;
+    qreal m_maximumWidth = std::numeric_limits<qreal>::infinity();
     QPixmap m_picture;
+    // What is shown in place of a picture that is too wide.
+    std::optional<QString> m_cut;
 };
 
 } // namespace kovamo
