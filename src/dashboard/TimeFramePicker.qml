@@ -34,9 +34,9 @@ Column {
             required property timeFrameChoice modelData
             readonly property bool chosen: modelData.value === picker.selected
 
-            Accessible.checkable: true
-            Accessible.checked: chosen
             Accessible.role: Accessible.PageTab
+            Accessible.selectable: true
+            Accessible.selected: chosen
             height: Math.max(50, caption.implicitHeight + Metrics.padding)
             implicitWidth: caption.implicitWidth + Metrics.step * 4
             opacity: 1

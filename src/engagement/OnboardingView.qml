@@ -57,7 +57,7 @@ FocusScope {
     }
     Row {
         Accessible.name: view.onboarding.position
-        Accessible.role: Accessible.Indicator
+        Accessible.role: Accessible.StaticText
         anchors.bottom: button.top
         anchors.bottomMargin: 5
         anchors.horizontalCenter: parent.horizontalCenter

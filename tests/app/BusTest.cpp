@@ -19,7 +19,7 @@ struct Element {
 
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString action = QStringLiteral("org.a11y.atspi.Action");
-constexpr int focused = 12, showing = 25;
+constexpr int checked = 4, focused = 12, modal = 16, selected = 23, sensitive = 24, showing = 25;
 
 /// The app on a display and on buses of its own, as a screen reader finds it.
 class Bus : public QObject, public testing::Test {
@@ -166,22 +166,23 @@ class Bus : public QObject, public testing::Test {
 TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
     const Element tab = await("3 Months");
     EXPECT_EQ(complaints(), "");
-    await("Salary, earning, $3,200, recurring");
+    await("Salary, earning, $3,200, monthly");
     said.clear();
     act(tab);
     EXPECT_TRUE(soon([&] { return !said.isEmpty(); }));
     EXPECT_TRUE(said.value(0).startsWith(u"Your Kovamo is positive 👍. Balance $"));
+    EXPECT_TRUE(is(selected, tab) && !is(checked, tab));
 
     const Element button = await("Add Item", "Shows all transactions");
     act(button, QStringLiteral("SetFocus"));
     EXPECT_TRUE(soon([&] { return is(focused, button); }));
     act(button);
-    const Element row = await("Rent, spending, $1,150, recurring");
+    const Element row = await("Rent, spending, $1,150, monthly");
     EXPECT_TRUE(read(row).isEmpty()) << "a row reads as one";
     EXPECT_EQ(complaints(), "");
     EXPECT_FALSE(is(focused, button));
     act(row, QStringLiteral("Delete"));
-    EXPECT_TRUE(awaitNo("Rent, spending, $1,150, recurring"));
+    EXPECT_TRUE(awaitNo("Rent, spending, $1,150, monthly"));
     act(await("Dismiss"));
     EXPECT_TRUE(awaitNo("Dismiss"));
     EXPECT_TRUE(is(focused, button)) << "the sheet gives the focus back";
@@ -189,6 +190,15 @@ TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
     act(await("Add Item", "Records a new transaction"));
     const Element choose = await("Choose an emoji");
     EXPECT_EQ(complaints(), "");
+    EXPECT_TRUE(soon([&] { return !is(showing, button); })) << "it is behind the sheet";
+    EXPECT_FALSE(is(sensitive, await("Save")));
+    int focusedOnes = 0, modalOnes = 0;
+    for (const Element& element : read(registry)) {
+        focusedOnes += is(focused, element);
+        modalOnes += is(modal, element);
+    }
+    EXPECT_EQ(focusedOnes, 1);
+    EXPECT_EQ(modalOnes, 1);
     act(choose);
     const Element pizza = await("pizza");
     EXPECT_EQ(complaints(), "");

@@ -11,11 +11,19 @@ namespace kovamo {
 
 namespace {
 
+/// Whether nothing is said of an item but that it is there: Qt's controls say no more of
+/// themselves.
+bool isUnnamedLayer(const QObject* said) {
+    const int role = said->property("role").toInt();
+    return said->property("name").toString().isEmpty() &&
+           (role == QAccessible::NoRole || role == QAccessible::Client);
+}
+
 /// What QML says of an item by "Accessible."; null where it says nothing, or to ignore it.
 QObject* attached(const QQuickItem* item) {
     for (QObject* child : item->children())
         if (child->inherits("QQuickAccessibleAttached"))
-            return child->property("ignored").toBool() ? nullptr : child;
+            return child->property("ignored").toBool() || isUnnamedLayer(child) ? nullptr : child;
     return nullptr;
 }
 
@@ -27,7 +35,26 @@ void gather(const QQuickItem* item, QList<QQuickItem*>& found) {
             gather(child, found);
 }
 
-/// What Qt says of an item, without its children.
+/// Whether an open sheet waits to be closed before the user comes to the item.
+bool isBehindSheet(const QQuickItem* item) {
+    const QList<QQuickItem*> layers = item->window()->contentItem()->childItems();
+    const auto overlay = std::ranges::find_if(
+        layers, [](const QQuickItem* layer) { return layer->inherits("QQuickOverlay"); });
+    if (overlay == layers.end())
+        return false;
+    const QList<QQuickItem*> popups = (*overlay)->childItems();
+    for (auto popup = popups.rbegin(); popup != popups.rend(); ++popup) {
+        if (*popup == item || (*popup)->isAncestorOf(item))
+            return false;
+        const QObject* says = attached(*popup);
+        if ((*popup)->isVisible() && says && says->property("role").toInt() == QAccessible::Dialog)
+            return true;
+    }
+    return false;
+}
+
+/// What QML says of an item, with what Qt's own interface leaves out: that it is disabled, modal or
+/// behind a sheet, and that of all items around the focus one alone has it.
 class AccessibleItem : public QAccessibleObject {
   public:
     explicit AccessibleItem(QQuickItem* item) : QAccessibleObject(item) {}
@@ -38,9 +65,13 @@ class AccessibleItem : public QAccessibleObject {
                 return QAccessible::queryAccessibleInterface(item);
         return QAccessible::queryAccessibleInterface(window());
     }
-    [[nodiscard]] QAccessibleInterface* child(int) const override { return nullptr; }
-    [[nodiscard]] int childCount() const override { return 0; }
-    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    [[nodiscard]] QAccessibleInterface* child(int index) const override {
+        return QAccessible::queryAccessibleInterface(children().value(index));
+    }
+    [[nodiscard]] int childCount() const override { return int(children().size()); }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        return int(children().indexOf(child->object()));
+    }
     [[nodiscard]] QWindow* window() const override { return item()->window(); }
     [[nodiscard]] QString text(QAccessible::Text text) const override {
         return text == QAccessible::Name          ? said("name").toString()
@@ -53,9 +84,16 @@ class AccessibleItem : public QAccessibleObject {
     [[nodiscard]] QAccessible::State state() const override {
         const QRectF scene(QPointF(), window() ? window()->size() : QSize());
         QAccessible::State state;
-        state.invisible = !window() || !window()->isVisible() || !item()->isVisible();
+        state.invisible =
+            !window() || !window()->isVisible() || !item()->isVisible() || isBehindSheet(item());
         state.offscreen = !scene.intersects(item()->mapRectToScene(item()->boundingRect()));
-        state.focusable = item()->activeFocusOnTab();
+        state.focusable = item()->activeFocusOnTab() || says("focusable");
+        state.disabled = !item()->isEnabled();
+        state.checkable = says("checkable");
+        state.checked = says("checked");
+        state.selectable = says("selectable");
+        state.selected = says("selected");
+        state.modal = role() == QAccessible::Dialog;
         state.focused = window() && item()->window()->activeFocusItem() == item();
         return state;
     }
@@ -66,30 +104,28 @@ class AccessibleItem : public QAccessibleObject {
 
   protected:
     [[nodiscard]] QQuickItem* item() const { return static_cast<QQuickItem*>(object()); }
+    [[nodiscard]] virtual QList<QQuickItem*> children() const {
+        QList<QQuickItem*> items;
+        gather(item(), items);
+        return items;
+    }
 
   private:
+    [[nodiscard]] bool says(const char* property) const { return said(property).toBool(); }
     [[nodiscard]] QVariant said(const char* property) const {
         const QObject* says = attached(item());
         return says ? says->property(property) : QVariant();
     }
 };
 
+/// A list, whose rows are read from top to bottom and not as they were made.
 class AccessibleList : public AccessibleItem {
   public:
     using AccessibleItem::AccessibleItem;
 
-    [[nodiscard]] QAccessibleInterface* child(int index) const override {
-        return QAccessible::queryAccessibleInterface(children().value(index));
-    }
-    [[nodiscard]] int childCount() const override { return int(children().size()); }
-    int indexOfChild(const QAccessibleInterface* child) const override {
-        return int(children().indexOf(child->object()));
-    }
-
-  private:
-    [[nodiscard]] QList<QQuickItem*> children() const {
-        QList<QQuickItem*> items;
-        gather(item(), items);
+  protected:
+    [[nodiscard]] QList<QQuickItem*> children() const override {
+        QList<QQuickItem*> items = AccessibleItem::children();
         const auto top = [](const QQuickItem* child) { return child->mapToScene({}).y(); };
         std::stable_sort(items.begin(), items.end(), [top](const auto* one, const auto* other) {
             return top(one) < top(other);
@@ -98,14 +134,49 @@ class AccessibleList : public AccessibleItem {
     }
 };
 
-class AccessibleRow : public AccessibleItem, public QAccessibleActionInterface {
+/// What can be pressed, or can take the keyboard's focus.
+class AccessibleControl : public AccessibleItem, public QAccessibleActionInterface {
   public:
     using AccessibleItem::AccessibleItem;
 
     void* interface_cast(QAccessible::InterfaceType type) override {
-        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
-                                                    : nullptr;
+        return type == QAccessible::ActionInterface && !actionNames().isEmpty()
+                   ? static_cast<QAccessibleActionInterface*>(this)
+                   : nullptr;
     }
+    [[nodiscard]] QStringList actionNames() const override {
+        const QAccessible::State now = state();
+        QStringList names;
+        if (!now.disabled && isPressable())
+            names.append(pressAction());
+        if (!now.disabled && now.focusable)
+            names.append(setFocusAction());
+        return names;
+    }
+    void doAction(const QString& name) override {
+        if (!actionNames().contains(name))
+            return;
+        if (name == setFocusAction())
+            item()->forceActiveFocus(Qt::OtherFocusReason);
+        else
+            QMetaObject::invokeMethod(attached(item()), "pressAction");
+    }
+    [[nodiscard]] QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+  private:
+    [[nodiscard]] bool isPressable() const {
+        constexpr QAccessible::Role pressable[] = {QAccessible::Button, QAccessible::PageTab,
+                                                   QAccessible::RadioButton, QAccessible::CheckBox,
+                                                   QAccessible::MenuItem};
+        return std::ranges::find(pressable, role()) != std::end(pressable);
+    }
+};
+
+/// A row that reads as one.
+class AccessibleRow : public AccessibleControl {
+  public:
+    using AccessibleControl::AccessibleControl;
+
     [[nodiscard]] QStringList actionNames() const override {
         return {pressAction(), QCoreApplication::translate("SwipeRow", "Delete")};
     }
@@ -120,17 +191,21 @@ class AccessibleRow : public AccessibleItem, public QAccessibleActionInterface {
         return name == pressAction() ? QStringList{QStringLiteral("Return")}
                                      : QStringList{QStringLiteral("Delete")};
     }
+
+  protected:
+    [[nodiscard]] QList<QQuickItem*> children() const override { return {}; }
 };
 
-QAccessibleInterface* accessibleItem(const QString& type, QObject* object) {
+QAccessibleInterface* accessibleItem(const QString&, QObject* object) {
     auto* item = qobject_cast<QQuickItem*>(object);
-    if (!item || !attached(item))
+    // Qt's own interface has what a text field needs.
+    if (!item || !attached(item) || item->inherits("QQuickTextInput"))
         return nullptr;
-    if (type == u"QQuickListView")
+    if (item->inherits("QQuickListView"))
         return new AccessibleList(item);
-    if (type == u"kovamo::DeletableRow")
+    if (qobject_cast<DeletableRow*>(item))
         return new AccessibleRow(item);
-    return nullptr;
+    return new AccessibleControl(item);
 }
 
 } // namespace

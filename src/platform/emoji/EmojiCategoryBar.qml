@@ -36,9 +36,9 @@ Item {
                 required property int index
                 required property emojiCategory modelData
 
-                Accessible.checkable: true
-                Accessible.checked: bar.category === index
                 Accessible.role: Accessible.PageTab
+                Accessible.selectable: true
+                Accessible.selected: bar.category === index
                 opacity: 1
                 text: modelData.title
                 width: row.width / bar.categories.length
@@ -50,7 +50,7 @@ Item {
                     color: SystemColors.fill
                     height: width
                     radius: width / 2
-                    visible: tab.Accessible.checked
+                    visible: tab.Accessible.selected
                     width: Math.min(parent.width, parent.height)
                 }
                 EmojiText {
