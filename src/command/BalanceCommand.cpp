@@ -4,7 +4,6 @@
 #include "Output.h"
 #include "ledger/Balance.h"
 #include "ledger/TransactionContainer.h"
-#include "platform/foundation/Formatters.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -19,11 +18,6 @@ QString verdictName(std::int64_t balance) {
     return balance > 0   ? QStringLiteral("positive")
            : balance < 0 ? QStringLiteral("negative")
                          : QStringLiteral("neutral");
-}
-
-QString balanceText(std::int64_t balance) {
-    const QString money = currencyText(magnitude(balance));
-    return balance == 0 ? money : withDirection(balance > 0, money);
 }
 
 ExitStatus run(const Call& call) {

@@ -1,5 +1,6 @@
 #include "ContentView.h"
 
+#include "Composition.h"
 #include <utility>
 
 namespace kovamo {
@@ -58,6 +59,17 @@ void ContentView::setShowTransactions(bool show) {
         Q_EMIT transactionsViewChanged();
     }
     Q_EMIT showTransactionsChanged();
+}
+
+QString ContentView::rowComposition(int row) const {
+    if (row < 0 || row >= m_filteredList.rowCount())
+        return {};
+    return composition(m_filteredList.transaction(row), monthSlots(m_selectedTimeFrame));
+}
+
+void ContentView::findTransactions() {
+    setShowTransactions(true);
+    m_transactionsView->search()->open();
 }
 
 void ContentView::addTransactionDidClose() {

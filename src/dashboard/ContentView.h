@@ -91,6 +91,12 @@ class ContentView : public QObject {
     [[nodiscard]] AddTransactionView* addForm() const { return m_addForm.get(); }
     [[nodiscard]] TransactionsView* transactionsView() const { return m_transactionsView.get(); }
 
+    /// What the amount of the list's row is made of; empty for no row.
+    Q_INVOKABLE [[nodiscard]] QString rowComposition(int row) const;
+
+    /// Shows all transactions with their search.
+    Q_INVOKABLE void findTransactions();
+
     /// A sheet has closed: what it showed goes.
     Q_INVOKABLE void addTransactionDidClose();
     Q_INVOKABLE void transactionsDidClose();

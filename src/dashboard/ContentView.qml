@@ -34,6 +34,13 @@ FocusScope {
 
         onActivated: screen.content.showTransactions = true
     }
+    Shortcut {
+        context: Qt.ApplicationShortcut
+        enabled: !screen.isCovered
+        sequence: "Ctrl+F"
+
+        onActivated: screen.content.findTransactions()
+    }
     NavigationBar {
         id: bar
 

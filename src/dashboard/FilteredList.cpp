@@ -2,8 +2,8 @@
 
 #include "editing/TransactionLine.h"
 #include "ledger/Recurrence.h"
+#include "platform/foundation/ListDifference.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace kovamo {
@@ -23,24 +23,14 @@ void FilteredList::showLater() {
 void FilteredList::show() {
     m_willShow = false;
     const QList<TransactionPresentation>& after = m_transactionContainer->transactions();
-    const auto common = std::min(m_rows.size(), after.size());
-    const auto head =
-        std::mismatch(m_rows.cbegin(), m_rows.cbegin() + common, after.begin()).first -
-        m_rows.cbegin();
-    const auto tail =
-        std::mismatch(m_rows.crbegin(), m_rows.crbegin() + (common - head), after.rbegin()).first -
-        m_rows.crbegin();
-    const auto removed = m_rows.size() - head - tail;
-    const auto inserted = after.size() - head - tail;
-    const auto first = static_cast<int>(head);
-
+    const auto [first, removed, inserted] = listDifference(m_rows, after);
     if (removed > 0) {
-        beginRemoveRows({}, first, static_cast<int>(head + removed) - 1);
-        m_rows.remove(head, removed);
+        beginRemoveRows({}, first, first + removed - 1);
+        m_rows.remove(first, removed);
         endRemoveRows();
     }
     if (inserted > 0) {
-        beginInsertRows({}, first, static_cast<int>(head + inserted) - 1);
+        beginInsertRows({}, first, first + inserted - 1);
         m_rows = after;
         endInsertRows();
     }

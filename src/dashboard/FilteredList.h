@@ -22,6 +22,11 @@ class FilteredList : public QAbstractListModel {
     /// Shows `container`, loaded, in place of the one before: rows that both have stay.
     void setTransactionContainer(std::unique_ptr<TransactionContainer> container);
 
+    /// The transaction at `row`. Requires: 0 ≤ `row` < rowCount().
+    [[nodiscard]] const TransactionPresentation& transaction(int row) const {
+        return m_rows.at(row);
+    }
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;

@@ -50,6 +50,7 @@ Item {
         width: period.width
 
         delegate: FilteredListRow {
+            content: period.content
             width: list.width
         }
         header: TransactionChart {

@@ -1,5 +1,6 @@
 #include "TransactionChart.h"
 
+#include "Composition.h"
 #include "charts/Chart.h"
 #include "charts/ColumnChartStyle.h"
 #include "charts/ColumnLayout.h"
@@ -124,11 +125,15 @@ QString TransactionChart::columnText(int column) const {
     if (column < 0 || column >= count())
         return {};
     const TransactionPresentation& transaction = transactions[column];
-    return QStringLiteral("%1\n%2\n%3")
-        .arg(shownText(required(transaction.id, transaction.title, "title")),
-             signedAmount(transaction.isPositive, transaction.amount),
-             localizedDateText(required(transaction.id, transaction.startDate, "startDate"),
-                               QStringLiteral("yMMMd")));
+    const QString text =
+        QStringLiteral("%1\n%2\n%3")
+            .arg(shownText(required(transaction.id, transaction.title, "title")),
+                 signedAmount(transaction.isPositive, transaction.amount),
+                 localizedDateText(required(transaction.id, transaction.startDate, "startDate"),
+                                   QStringLiteral("yMMMd")));
+    return transaction.isRecurring == true
+               ? text + u'\n' + composition(transaction, monthSlots(selectedTimeFrame))
+               : text;
 }
 
 } // namespace kovamo

@@ -68,7 +68,7 @@ class TransactionChart {
     /// Where the middle of a transaction's column is in such a view, in points.
     Q_INVOKABLE [[nodiscard]] double columnCenter(int column, double width) const;
 
-    /// A transaction's title, amount and date.
+    /// A transaction's title, amount and date, and what the amount of a recurring one is made of.
     Q_INVOKABLE [[nodiscard]] QString columnText(int column) const;
 
   private:

@@ -51,4 +51,8 @@ TransactionLine::TransactionLine(const TransactionPresentation& transaction, std
     sentence = parts.join(QStringLiteral(", "));
 }
 
+TransactionLine lineOf(const Transaction& record) {
+    return record.exists() ? TransactionLine(TransactionPresentation(record)) : TransactionLine();
+}
+
 } // namespace kovamo

@@ -17,6 +17,8 @@ namespace kovamo {
 /// was: "Salary, monthly since 2019, deleted".
 [[nodiscard]] QString deletionSentence(const TransactionPresentation& deleted);
 
+class Transaction;
+
 /// What a row of a list shows of a transaction.
 struct TransactionLine {
     Q_GADGET
@@ -44,5 +46,8 @@ struct TransactionLine {
     /// one-off with its day: "Cinema, spending, $20, May 15, 2024".
     QString sentence;
 };
+
+/// The line of a record; an empty one where another process has deleted it, until the next merge.
+[[nodiscard]] TransactionLine lineOf(const Transaction& record);
 
 } // namespace kovamo

@@ -19,17 +19,18 @@ FetchRequest largestFirst() {
 
 TransactionsView::TransactionsView(ManagedObjectContext& viewContext)
     : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext),
-      m_exchange(viewContext.storePath()) {
+      m_exchange(viewContext.storePath()), m_search(viewContext, *this),
+      m_deleted(viewContext) {
     viewContext.prepareToSave();
 }
 
 Transaction& TransactionsView::transaction(int row) const {
-    return static_cast<Transaction&>(object(row));
+    return static_cast<Transaction&>(m_viewContext.object(m_search.objectID(row)));
 }
 
 bool TransactionsView::edit(int row) {
     // A delegate can still be tapped until the next frame after its record was deleted.
-    if (!index(row).isValid() || !transaction(row).exists())
+    if (row < 0 || row >= m_search.rowCount() || !transaction(row).exists())
         return false;
     m_formBefore = std::move(m_form);
     m_form = std::make_unique<AddTransactionView>(m_viewContext, &transaction(row));
@@ -39,9 +40,13 @@ bool TransactionsView::edit(int row) {
 
 void TransactionsView::remove(const QList<int>& rows) {
     for (const int row : std::set<int>(rows.begin(), rows.end())) {
-        if (row < 0 || row >= rowCount())
+        if (row < 0 || row >= m_search.rowCount())
             continue;
-        m_viewContext.deleteObject(transaction(row));
+        Transaction& record = transaction(row);
+        // Another process may have been faster.
+        if (record.exists())
+            m_deleted.willDelete(record);
+        m_viewContext.deleteObject(record);
         try {
             m_viewContext.save();
         } catch (const StoreError&) {
@@ -50,13 +55,15 @@ void TransactionsView::remove(const QList<int>& rows) {
     }
 }
 
+int TransactionsView::takeBack() {
+    const Transaction* record = m_deleted.takeBack();
+    return record ? m_search.rowOf(record->objectID()) : -1;
+}
+
 QVariant TransactionsView::data(const QModelIndex& index, int role) const {
     if (role != LineRole)
         return {};
-    // A record that another process has just deleted stays in the list until the next merge.
-    const Transaction& shown = transaction(index.row());
-    return QVariant::fromValue(shown.exists() ? TransactionLine(TransactionPresentation(shown))
-                                              : TransactionLine());
+    return QVariant::fromValue(lineOf(static_cast<const Transaction&>(object(index.row()))));
 }
 
 QHash<int, QByteArray> TransactionsView::roleNames() const {

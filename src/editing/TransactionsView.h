@@ -1,7 +1,9 @@
 #pragma once
 
 #include "AddTransactionView.h"
+#include "DeletedTransactions.h"
 #include "ExchangeView.h"
+#include "TransactionSearch.h"
 #include "platform/objectstore/LiveFetch.h"
 
 #include <QtQml/qqmlregistration.h>
@@ -17,10 +19,13 @@ class TransactionsView : public LiveFetch {
     /// The form of the transaction opened last.
     Q_PROPERTY(kovamo::AddTransactionView* form READ form NOTIFY formChanged)
     Q_PROPERTY(kovamo::ExchangeView* exchange READ exchange CONSTANT)
+    /// The rows that are shown: all, or what is searched for.
+    Q_PROPERTY(kovamo::TransactionSearch* search READ search CONSTANT)
+    Q_PROPERTY(kovamo::DeletedTransactions* deleted READ deleted CONSTANT)
 
   public:
     /// Of a row's TransactionLine.
-    static constexpr int LineRole = Qt::UserRole;
+    static constexpr int LineRole = TransactionSearch::LineRole;
 
     /// Requires: `viewContext` outlives the screen.
     explicit TransactionsView(ManagedObjectContext& viewContext);
@@ -30,12 +35,19 @@ class TransactionsView : public LiveFetch {
     /// How the records go out and come in.
     [[nodiscard]] ExchangeView* exchange() { return &m_exchange; }
 
-    /// Makes the form for the transaction at `row`; returns whether there is one.
+    [[nodiscard]] TransactionSearch* search() { return &m_search; }
+    [[nodiscard]] DeletedTransactions* deleted() { return &m_deleted; }
+
+    /// Makes the form for the transaction at `row` of search(); returns whether there is one.
     Q_INVOKABLE bool edit(int row);
 
-    /// Deletes the transactions at `rows`, ascending, each saved at once and each row counted in
-    /// the list as the deletion before has left it. A failed save is passed over.
+    /// Deletes the transactions at `rows` of search(), ascending, each saved at once and each row
+    /// counted in the list as the deletion before has left it. A failed save is passed over.
     Q_INVOKABLE void remove(const QList<int>& rows);
+
+    /// Takes the last deletion back, saved at once. Returns the row of search() in which the
+    /// transaction stands again; -1 for none.
+    Q_INVOKABLE int takeBack();
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
@@ -48,6 +60,8 @@ class TransactionsView : public LiveFetch {
 
     ManagedObjectContext& m_viewContext;
     ExchangeView m_exchange;
+    TransactionSearch m_search;
+    DeletedTransactions m_deleted;
     std::unique_ptr<AddTransactionView> m_form;
     // Kept until its page has slid off the screen, which still shows it.
     std::unique_ptr<AddTransactionView> m_formBefore;

@@ -24,48 +24,11 @@ NavigationStack {
         visible: !screen.canGoBack
     }
 
-    initialPage: RowList {
-        id: list
+    initialPage: TransactionsPage {
+        transactions: screen.transactions
+        isOnTop: screen.depth === 1
 
-        property string navigationTitle: qsTr("Transactions")
-
-        Accessible.name: navigationTitle
-        model: screen.transactions
-
-        delegate: SwipeRow {
-            id: row
-
-            required property int index
-            required property transactionLine line
-
-            accessibleName: line.sentence
-            activeFocusOnTab: ListView.isCurrentItem || activeFocus
-            focus: ListView.isCurrentItem
-            implicitHeight: words.implicitHeight
-
-            onActiveFocusChanged: {
-                if (activeFocus)
-                    list.currentIndex = index;
-                else
-                    close();
-            }
-            onClicked: screen.open(index)
-            onDeleteRequested: screen.transactions.remove([index])
-
-            TransactionRow {
-                id: words
-
-                line: row.line
-                marksRecurring: true
-                width: row.width
-            }
-            Divider {
-                anchors.bottom: parent.bottom
-                anchors.left: parent.left
-                anchors.leftMargin: Metrics.padding
-                anchors.right: parent.right
-            }
-        }
+        onOpened: row => screen.open(row)
     }
 
     Component {

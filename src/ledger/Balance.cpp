@@ -1,6 +1,7 @@
 #include "Balance.h"
 
 #include "platform/foundation/CheckedArithmetic.h"
+#include "platform/foundation/Formatters.h"
 
 namespace kovamo {
 
@@ -15,6 +16,11 @@ std::int64_t netBalance(const QList<TransactionPresentation>& transactions) {
 
 std::int64_t magnitude(std::int64_t balance) {
     return balance < 0 ? checkedSubtract(std::int64_t{0}, balance) : balance;
+}
+
+QString balanceText(std::int64_t balance) {
+    const QString money = currencyText(magnitude(balance));
+    return balance == 0 ? money : withDirection(balance > 0, money);
 }
 
 QString verdictText(std::int64_t balance) {

@@ -311,6 +311,40 @@ TEST_F(App, OpensWhatAStartAsksForButNotOverASheet) {
     EXPECT_TRUE(visit.shows("Transactions"));
 }
 
+TEST_F(App, FindsARecordAndTakesItsDeletionBack) {
+    Book book({{300}, {1250, "2020-01-01", "monthly"}, {20}});
+    book.all()[1]->setTitle(QStringLiteral("Café"));
+    book.context.save();
+    Visit visit(book);
+    visit.press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(visit.has("Search transactions"));
+    type(QStringLiteral("cafe"));
+    EXPECT_TRUE(visit.shows("1 found, + $1,250"));
+    EXPECT_TRUE(visit.lacks("title, earning, $300"));
+    visit.press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(visit.hides("1 found, + $1,250")) << "in a field the key is the field's own";
+    type(QStringLiteral("cafe"));
+    EXPECT_TRUE(visit.shows("1 found, + $1,250"));
+    visit.press(Qt::Key_Down);
+    visit.press(Qt::Key_Delete);
+    EXPECT_TRUE(visit.shows("0 found"));
+    EXPECT_TRUE(visit.shows("Café, monthly since 2020, deleted"));
+    EXPECT_EQ(Book().amounts(), (std::vector{300, 20}));
+    visit.click("Undo");
+    EXPECT_TRUE(visit.shows("1 found, + $1,250"));
+    EXPECT_TRUE(visit.hides("Café, monthly since 2020, deleted"));
+    visit.press(Qt::Key_Escape);
+    EXPECT_TRUE(visit.lacks("Search transactions")) << "and the sheet is still there";
+    EXPECT_TRUE(visit.has("title, earning, $300"));
+    for (int deletions = 0; deletions < 2; ++deletions)
+        visit.press(Qt::Key_Delete);
+    EXPECT_EQ(Book().amounts(), (std::vector{20}));
+    for (int deletions = 0; deletions < 2; ++deletions)
+        visit.press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(Book().all().size(), 3U);
+    EXPECT_TRUE(visit.has("title, earning, $300"));
+}
+
 TEST_F(App, AsksForStarsAtTheFourthStart) {
     UserDefaults::standard().set(QStringLiteral("appStartUpsCountKey"), std::int64_t{2});
     Book book({{300}});

@@ -19,6 +19,10 @@ TEST(TransactionChart, SaysItsFrameAndRange) {
     EXPECT_EQ(year.sentence(), u"12 Months, 03/01/24 - 02/28/25: 1 earning, 1 spending, largest "
                                "amount $1,200");
     EXPECT_EQ(year.columnText(0), u"title\n+ $1,200\nMar 11, 2024");
+    Book recurring({{3200, "2024-02-01", "monthly", "2024-06-10"}, {480, "2023-04-01", "yearly"}});
+    const TransactionChart months(recurring.context, 2);
+    EXPECT_EQ(months.columnText(0), u"title\n+ $480\nApr 1, 2023\n$480, yearly");
+    EXPECT_EQ(months.columnText(1), u"title\n+ $9,600\nFeb 1, 2024\n3 × $3,200, monthly");
     // The Buddhist year of January is that of March; a Persian year ends with March.
     qputenv("LC_ALL", "th_TH.UTF-8");
     EXPECT_EQ(TransactionChart(book.context, 2).stackDateFormat.dateFormat, u"MM/dd");

@@ -1,6 +1,7 @@
 #include "EmojiCatalogue.h"
 
 #include <QFile>
+#include <QHash>
 #include <QSet>
 #include <algorithm>
 
@@ -14,6 +15,15 @@ QStringList wordsOf(const QString& text) {
         if (!character.isLetterOrNumber())
             character = u' ';
     return blanks.split(u' ', Qt::SkipEmptyParts);
+}
+
+/// An emoji without its skin tones and the mark that it is to be drawn in colour.
+QString plain(const QString& emoji) {
+    QString plain;
+    for (const uint character : emoji.toUcs4())
+        if (character != 0xFE0F && (character < 0x1F3FB || character > 0x1F3FF))
+            plain += QString::fromUcs4(reinterpret_cast<const char32_t*>(&character), 1);
+    return plain;
 }
 
 QList<EmojiCategory> readCategories() {
@@ -37,6 +47,17 @@ QList<EmojiCategory> readCategories() {
 const QList<EmojiCategory>& emojiCategories() {
     static const QList<EmojiCategory> categories = readCategories();
     return categories;
+}
+
+QString emojiName(const QString& emoji) {
+    static const QHash<QString, QString> names = [] {
+        QHash<QString, QString> all;
+        for (const EmojiCategory& category : emojiCategories())
+            for (const Emoji& offered : category.emoji)
+                all.insert(plain(offered.text), offered.name);
+        return all;
+    }();
+    return names.value(plain(emoji));
 }
 
 QList<Emoji> foundEmoji(const QString& query) {

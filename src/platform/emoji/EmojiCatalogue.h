@@ -34,6 +34,10 @@ struct EmojiCategory {
 /// The emoji to choose from, in their order: what money is spent on first, then Unicode's groups.
 [[nodiscard]] const QList<EmojiCategory>& emojiCategories();
 
+/// What `emoji` is called in Unicode's words, its skin tones aside; empty for none that the panel
+/// offers.
+[[nodiscard]] QString emojiName(const QString& emoji);
+
 /// The emoji found by `query`, each once: every word of the query begins one of its own words.
 /// Those that have the query's very words stand first.
 [[nodiscard]] QList<Emoji> foundEmoji(const QString& query);

@@ -33,54 +33,20 @@ FocusScope {
     EmojiRows {
         id: rows
     }
-    Rectangle {
-        anchors.fill: searchRow
-        color: SystemColors.fill
-        radius: Metrics.cardRadius
-    }
-    Item {
-        id: searchRow
+    SearchBar {
+        id: search
 
         anchors.left: parent.left
-        anchors.leftMargin: Metrics.padding
-        anchors.right: cancel.left
+        anchors.right: parent.right
         anchors.top: parent.top
         anchors.topMargin: Metrics.step * 3
-        height: search.height
+        placeholder: qsTr("Search emoji")
+        text: rows.query
 
-        FormTextField {
-            id: search
-
-            Keys.onDownPressed: grid.forceActiveFocus(Qt.TabFocusReason)
-            Keys.onEnterPressed: panel.pick(rows.cursorText)
-            Keys.onReturnPressed: panel.pick(rows.cursorText)
-            isFirst: true
-            placeholder: qsTr("Search emoji")
-            text: rows.query
-
-            onEdited: text => rows.query = text
-        }
-    }
-    Pressable {
-        id: cancel
-
-        anchors.right: parent.right
-        anchors.verticalCenter: searchRow.verticalCenter
-        implicitWidth: cancelText.implicitWidth + Metrics.step * 3 + Metrics.padding
-        text: qsTr("Cancel")
-
-        onClicked: panel.cancelled()
-
-        PlainText {
-            id: cancelText
-
-            Accessible.ignored: true
-            anchors.left: parent.left
-            anchors.leftMargin: Metrics.step * 3
-            anchors.verticalCenter: parent.verticalCenter
-            color: SystemColors.accent
-            text: cancel.text
-        }
+        onCancelled: panel.cancelled()
+        onEdited: text => rows.query = text
+        onEntered: panel.pick(rows.cursorText)
+        onWentOn: grid.forceActiveFocus(Qt.TabFocusReason)
     }
     EmojiGrid {
         id: grid
@@ -88,7 +54,7 @@ FocusScope {
         anchors.bottom: bar.top
         anchors.left: parent.left
         anchors.right: parent.right
-        anchors.top: searchRow.bottom
+        anchors.top: search.bottom
         anchors.topMargin: Metrics.step
         bottomMargin: Metrics.step * 2
         focus: true

@@ -73,11 +73,12 @@ EntityTable::EntityTable(const EntityDescription& entity) : name(quoted(entity.n
                            sortKeys(index) + u')');
     }
     selection = u"SELECT " + columns.join(u',') + u" FROM " + name + u" WHERE pk = ?";
-    everything = u"SELECT " + columns.join(u',') + u",pk FROM " + name + u" ORDER BY pk";
     wrongValue = QStringLiteral("SELECT pk, CASE");
     for (const AttributeDescription& attribute : entity.attributes)
         wrongValue += u" WHEN " + wrongness(attribute) + u" THEN '" + attribute.name + u'\'';
     wrongValue += u" END AS wrong FROM " + name + u" WHERE wrong IS NOT NULL LIMIT 1";
+    everything =
+        u"SELECT " + columns.join(u',') + u",pk FROM " + name + u" WHERE pk > ? ORDER BY pk";
     insertion = u"INSERT INTO " + name + u" (" + columns.join(u',') + u",pk) VALUES (" +
                 QStringLiteral("?,").repeated(columns.size()) + u"?)";
     update =

@@ -19,7 +19,7 @@ struct EntityTable {
     QStringList definitions;
     /// The columns of the record with an identity.
     QString selection;
-    /// The columns and the identity of every record, by identity.
+    /// The columns and the identity of every record above an identity, in their order.
     QString everything;
     /// The first record with a value that its attribute cannot have, and the attribute's name.
     QString wrongValue;

@@ -60,7 +60,7 @@ void LiveFetch::insert(const ManagedObject& object) {
 }
 
 void LiveFetch::remove(const ManagedObject& object) {
-    const int at = row(object);
+    const int at = rowOf(object.objectID());
     if (at < 0)
         return;
     beginRemoveRows({}, at, at);
@@ -69,7 +69,7 @@ void LiveFetch::remove(const ManagedObject& object) {
 }
 
 void LiveFetch::update(const ManagedObject& object) {
-    const int from = row(object);
+    const int from = rowOf(object.objectID());
     if (from < 0)
         return insert(object);
     if (!matches(object))
@@ -89,8 +89,8 @@ void LiveFetch::update(const ManagedObject& object) {
     Q_EMIT dataChanged(index(to), index(to));
 }
 
-int LiveFetch::row(const ManagedObject& object) const {
-    const auto found = std::ranges::find(m_ids, object.objectID());
+int LiveFetch::rowOf(ObjectID id) const {
+    const auto found = std::ranges::find(m_ids, id);
     return found == m_ids.end() ? -1 : static_cast<int>(found - m_ids.begin());
 }
 

@@ -19,6 +19,12 @@ class LiveFetch : public QAbstractListModel {
     /// The record at `row`. Requires: 0 ≤ `row` < rowCount().
     [[nodiscard]] ManagedObject& object(int row) const;
 
+    /// The identities of the records, in order.
+    [[nodiscard]] const std::vector<ObjectID>& objectIDs() const { return m_ids; }
+
+    /// The row of a record; -1 for none.
+    [[nodiscard]] int rowOf(ObjectID id) const;
+
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
 
     /// Nothing: what a row shows is up to the screen that derives from this.

@@ -79,6 +79,23 @@ std::size_t ManagedObjectContext::count(const FetchRequest& request) {
     return m_unsaved.isEmpty() ? m_store.count(request) : fetchIDs(request).size();
 }
 
+void ManagedObjectContext::forEach(
+    ObjectID after, const std::function<bool(ObjectID, std::span<const Value>)>& visit) {
+    bool goesOn = true;
+    const auto visitStored = [&](ObjectID id, std::span<const Value> stored) {
+        const auto found = m_objects.find(id);
+        const ManagedObject* known = found == m_objects.end() ? nullptr : found->second.get();
+        if (known && known->m_isDeleted)
+            return true;
+        goesOn = visit(id, known && known->m_isUpdated ? known->values() : stored);
+        return goesOn;
+    };
+    m_store.forEach(visitStored, after);
+    for (const ManagedObject* object : m_unsaved.inserted)
+        if (goesOn && object->objectID() > after)
+            goesOn = visit(object->objectID(), object->values());
+}
+
 void ManagedObjectContext::mergePending(const FetchRequest& request, std::vector<ObjectID>& ids) {
     std::erase_if(ids, [this](ObjectID id) {
         const auto found = m_objects.find(id);

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QTimer>
 #include <algorithm>
+#include <functional>
 #include <unordered_map>
 
 namespace kovamo {
@@ -63,6 +64,11 @@ class ManagedObjectContext : public QObject {
 
     /// How many records match `request`; fails as fetch() does.
     [[nodiscard]] std::size_t count(const FetchRequest& request);
+
+    /// Visits the records above the identity `after`, by identity, as a fetch sees them but without
+    /// an object for each, for as long as `visit` returns true; fails as fetch() does.
+    void forEach(ObjectID after,
+                 const std::function<bool(ObjectID, std::span<const Value>)>& visit);
 
     /// The object that stands for the record `id`, its values read when they are asked for.
     [[nodiscard]] ManagedObject& object(ObjectID id);

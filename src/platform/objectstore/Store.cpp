@@ -239,9 +239,10 @@ std::vector<Value> Store::read(ObjectID id) {
     });
 }
 
-void Store::forEach(const std::function<bool(ObjectID, std::span<const Value>)>& visit) {
+void Store::forEach(const Visitor& visit, ObjectID after) {
     guarded(m_path, [&] {
         const auto row = m_statements->use(m_table.everything);
+        row->bind(1, after);
         const int idColumn = static_cast<int>(m_entity.attributes.size());
         std::vector<Value> values;
         while (row->executeStep()) {

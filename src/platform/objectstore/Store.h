@@ -10,7 +10,9 @@
 #include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 #include <functional>
+#include <limits>
 #include <memory>
+#include <optional>
 #include <span>
 
 namespace kovamo {
@@ -43,9 +45,12 @@ class Store {
     /// The values of a record; empty when there is none.
     [[nodiscard]] std::vector<Value> read(ObjectID id);
 
-    /// Visits all records as they are in one state of the file, in the order of their identities,
-    /// for as long as `visit` returns true. It gets the identity and the values.
-    void forEach(const std::function<bool(ObjectID, std::span<const Value>)>& visit);
+    /// What is told of each record: its identity and its values. False ends the visit.
+    using Visitor = std::function<bool(ObjectID, std::span<const Value>)>;
+
+    /// Visits all records above an identity as they are in one state of the file, in the order of
+    /// their identities, for as long as `visit` returns true.
+    void forEach(const Visitor& visit, ObjectID after = std::numeric_limits<ObjectID>::min());
 
     /// What is read until the transaction goes is of one state of the file, which is locked and
     /// looked at once and not for each record. Requires that nothing is written meanwhile and that

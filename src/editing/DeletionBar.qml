@@ -1,0 +1,82 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Desktop
+
+/*! Says at the bottom of a list what was deleted, with a button that takes it back. */
+Item {
+    id: bar
+
+    /*! What was deleted; nothing hides the bar. */
+    required property string sentence
+    property string shownSentence
+
+    signal undone
+
+    implicitHeight: Math.max(Metrics.rowHeight, words.height) + Metrics.step * 2
+    opacity: sentence === "" ? 0 : 1
+    visible: opacity > 0
+
+    Behavior on opacity  {
+        NumberAnimation {
+            duration: Motion.duration(200)
+        }
+    }
+
+    // The last words stay while the bar goes.
+    onSentenceChanged: if (sentence !== "")
+        shownSentence = sentence
+
+    Rectangle {
+        anchors.fill: parent
+        border.color: SystemColors.separator
+        border.width: Metrics.hairline
+        color: SystemColors.background
+        radius: Metrics.cardRadius
+
+        TapHandler {
+            // A tap on the bar is none on the row behind it.
+            gesturePolicy: TapHandler.WithinBounds
+        }
+    }
+    PlainText {
+        id: words
+
+        Accessible.ignored: true
+        anchors.left: parent.left
+        anchors.leftMargin: Metrics.padding
+        anchors.right: undo.left
+        anchors.verticalCenter: parent.verticalCenter
+        elide: TextStyles.isLarge ? Text.ElideRight : Text.ElideMiddle
+        maximumLineCount: TextStyles.isLarge ? 3 : 1
+        text: bar.shownSentence
+        wrapMode: TextStyles.isLarge ? Text.Wrap : Text.NoWrap
+    }
+    Announcement {
+        Accessible.name: text
+        Accessible.role: Accessible.Notification
+        anchors.fill: words
+        text: bar.sentence === "" ? " " : bar.sentence
+    }
+    Pressable {
+        id: undo
+
+        anchors.right: parent.right
+        anchors.verticalCenter: parent.verticalCenter
+        description: qsTr("Takes the deletion back")
+        enabled: bar.sentence !== ""
+        implicitWidth: undoText.implicitWidth + Metrics.padding * 2
+        text: qsTr("Undo")
+
+        onClicked: bar.undone()
+
+        PlainText {
+            id: undoText
+
+            Accessible.ignored: true
+            anchors.centerIn: parent
+            color: SystemColors.accent
+            font: TextStyles.headline
+            text: undo.text
+        }
+    }
+}

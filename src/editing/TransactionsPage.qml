@@ -1,0 +1,163 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Desktop
+import Kovamo.Editing
+
+/*! The list of all transactions. Pulled down beyond its top it uncovers the search. */
+FocusScope {
+    id: page
+
+    required property TransactionsState transactions
+    /*! Whether no form lies over the list. */
+    required property bool isOnTop
+    readonly property TransactionSearch search: transactions.search
+    property string navigationTitle: qsTr("Transactions")
+    /*! The list's first row in sight and its current one, as they were when the search began. */
+    property int topBefore: 0
+    property int currentBefore: 0
+
+    /*! The user wants to see what is behind a row. */
+    signal opened(int row)
+
+    function find() {
+        if (!search.isOpen) {
+            topBefore = Math.max(0, list.indexAt(0, list.contentY));
+            currentBefore = list.currentIndex;
+        }
+        search.open();
+        searchBar.edit();
+    }
+
+    /*! Shows the list as it was before the search. */
+    function restore() {
+        list.currentIndex = Math.min(currentBefore, list.count - 1);
+        list.positionViewAtIndex(Math.min(topBefore, list.count - 1), ListView.Beginning);
+        list.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    /*! Brings a row in sight that has come back. */
+    function show(row: int) {
+        if (row < 0)
+            return;
+        list.currentIndex = row;
+        list.positionViewAtIndex(row, ListView.Contain);
+    }
+
+    Keys.onBackPressed: event => {
+        event.accepted = search.isOpen;
+        search.close();
+    }
+    Keys.onEscapePressed: event => {
+        event.accepted = search.isOpen;
+        search.close();
+    }
+    // Of the keys, what the list has no use for arrives here: up, above its first row.
+    Keys.onUpPressed: if (search.isOpen)
+        searchBar.edit()
+
+    Component.onCompleted: if (search.isOpen)
+        find()
+
+    Connections {
+        function onIsOpenChanged() {
+            page.search.isOpen ? page.find() : page.restore();
+        }
+        function onQueryChanged() {
+            if (page.search.isOpen)
+                page.show(0);
+        }
+
+        target: page.search
+    }
+    Shortcut {
+        context: Qt.ApplicationShortcut
+        enabled: page.isOnTop
+        sequence: "Ctrl+F"
+
+        onActivated: page.find()
+    }
+    Shortcut {
+        context: Qt.ApplicationShortcut
+        enabled: page.isOnTop
+        sequence: "Ctrl+Z"
+
+        onActivated: page.show(page.transactions.takeBack())
+    }
+    TransactionSearchBar {
+        id: searchBar
+
+        readonly property real pulled: Math.max(0, -list.verticalOvershoot)
+
+        enabled: page.search.isOpen
+        opacity: page.search.isOpen ? 1 : Math.min(1, pulled / height)
+        search: page.search
+        visible: opacity > 0
+        width: parent.width
+
+        onWentOn: list.forceActiveFocus(Qt.TabFocusReason)
+    }
+    RowList {
+        id: list
+
+        Accessible.name: page.navigationTitle
+        focus: true
+        height: parent.height - y
+        model: page.search
+        width: parent.width
+        y: page.search.isOpen ? searchBar.height : 0
+
+        delegate: SwipeRow {
+            id: row
+
+            required property int index
+            required property transactionLine line
+
+            accessibleName: line.sentence
+            activeFocusOnTab: ListView.isCurrentItem || activeFocus
+            focus: ListView.isCurrentItem
+            implicitHeight: words.implicitHeight
+
+            onActiveFocusChanged: {
+                if (activeFocus)
+                    list.currentIndex = index;
+                else
+                    close();
+            }
+            onClicked: page.opened(index)
+            onDeleteRequested: page.transactions.remove([index])
+
+            TransactionRow {
+                id: words
+
+                line: row.line
+                marksRecurring: true
+                width: row.width
+            }
+            Divider {
+                anchors.bottom: parent.bottom
+                anchors.left: parent.left
+                anchors.leftMargin: Metrics.padding
+                anchors.right: parent.right
+            }
+        }
+
+        Behavior on y  {
+            NumberAnimation {
+                duration: Motion.duration(250)
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        onDragEnded: if (searchBar.pulled > searchBar.height / 2)
+            page.find()
+    }
+    DeletionBar {
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: Metrics.step * 2
+        anchors.horizontalCenter: parent.horizontalCenter
+        sentence: page.transactions.deleted.sentence
+        width: Math.min(parent.width - Metrics.padding, Metrics.readableWidth)
+
+        onUndone: page.show(page.transactions.takeBack())
+    }
+}
