@@ -24,6 +24,8 @@ struct AttributeDescription {
 struct SortDescriptor {
     QString key;
     bool ascending = true;
+
+    friend bool operator==(const SortDescriptor&, const SortDescriptor&) = default;
 };
 
 /// What the records of one kind look like. A scalar attribute (not optional) of a fresh record is

@@ -15,6 +15,9 @@ struct FetchRequest {
     /// At most this many records.
     std::optional<int> fetchLimit = std::nullopt;
 
+    /// Whether both ask for the same in the same words.
+    friend bool operator==(const FetchRequest&, const FetchRequest&) = default;
+
     /// Whether a record with the identity `a` and `aValues` comes before another.
     [[nodiscard]] bool precedes(const EntityDescription& entity, ObjectID a,
                                 std::span<const Value> aValues, ObjectID b,

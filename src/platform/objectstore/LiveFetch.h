@@ -36,7 +36,6 @@ class LiveFetch : public QAbstractListModel {
     void insert(const ManagedObject& object);
     void remove(const ManagedObject& object);
     void update(const ManagedObject& object);
-    [[nodiscard]] int row(const ManagedObject& object) const;
     /// Where the record belongs; nothing where another process has deleted one that is listed.
     [[nodiscard]] std::optional<int> place(const ManagedObject& object) const;
     [[nodiscard]] bool matches(const ManagedObject& object) const;

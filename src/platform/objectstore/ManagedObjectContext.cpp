@@ -58,6 +58,9 @@ std::vector<ObjectID> ManagedObjectContext::selectIDs(const FetchRequest& reques
 
 std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchRequest& request) {
     followFile();
+    mergeChanges();
+    if (const auto* remembered = m_memory.find(request))
+        return *remembered;
     // One read transaction: otherwise another process could delete a record between the two reads.
     const std::unique_ptr<SQLite::Transaction> reading = m_store.readTransaction();
     const std::vector<ObjectID> ids = selectIDs(request);
@@ -69,6 +72,9 @@ std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchReques
             read(found);
         objects.push_back(&found);
     }
+    // Where nothing is merged, nobody tells when another writer makes it wrong.
+    if (m_mergesChanges)
+        m_memory.keep(request, objects);
     return objects;
 }
 
@@ -136,6 +142,7 @@ ManagedObject& ManagedObjectContext::insertObject() {
     ManagedObject& inserted = object(id);
     inserted.m_values = m_entity.initialValues();
     inserted.m_isInserted = true;
+    m_memory.forget();
     m_unsaved.inserted.push_back(&inserted);
     announceLater(m_unannounced.inserted, inserted);
     return inserted;
@@ -144,6 +151,7 @@ ManagedObject& ManagedObjectContext::insertObject() {
 void ManagedObjectContext::didUpdate(ManagedObject& object) {
     if (object.m_isDeleted)
         return;
+    m_memory.forget();
     if (!object.m_isInserted && !std::exchange(object.m_isUpdated, true))
         m_unsaved.updated.push_back(&object);
     if (!object.m_isUnannounced)
@@ -153,6 +161,7 @@ void ManagedObjectContext::didUpdate(ManagedObject& object) {
 void ManagedObjectContext::deleteObject(ManagedObject& object) {
     if (std::exchange(object.m_isDeleted, true))
         return;
+    m_memory.forget();
     std::erase(m_unsaved.inserted, &object);
     std::erase(m_unsaved.updated, &object);
     if (!object.m_isInserted)
@@ -186,9 +195,11 @@ void ManagedObjectContext::save() {
         m_deletedObjects.push_back(std::move(node.mapped()));
     }
     m_unsaved = {};
+    m_memory.forget();
 }
 
 void ManagedObjectContext::renumberInserted() {
+    m_memory.forget();
     ObjectID id = m_store.unusedID();
     for (ManagedObject* object : m_unsaved.inserted) {
         auto node = m_objects.extract(object->objectID());
@@ -235,6 +246,7 @@ void ManagedObjectContext::announce() {
 
 void ManagedObjectContext::setAutomaticallyMergesChangesFromParent(bool merges) {
     m_mergesChanges = merges;
+    m_memory.forget();
     // Asking SQLite costs microseconds, and no file watcher can tell when a save is complete.
     m_mergeTimer.setTimerType(Qt::VeryCoarseTimer);
     if (merges)
@@ -255,6 +267,7 @@ void ManagedObjectContext::followFile() {
 
 void ManagedObjectContext::goOnElsewhere() {
     m_store.reopen();
+    m_memory.forget();
     const std::size_t identity = m_entity.attributeIndex(m_entity.identity);
     const auto identityIn = [&](std::span<const Value> values) {
         const auto* id = std::get_if<QUuid>(&values[identity]);
@@ -300,6 +313,7 @@ void ManagedObjectContext::goOnElsewhere() {
 void ManagedObjectContext::mergeChanges() {
     if (!m_mergesChanges || !m_store.changedElsewhere())
         return;
+    m_memory.forget();
     for (const auto& [id, object] : m_objects)
         object->m_isStale = !object->m_isInserted && !object->m_isUpdated && !object->m_isDeleted;
     m_unannounced.everything = true;

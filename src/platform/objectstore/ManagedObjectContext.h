@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FetchRequest.h"
+#include "FetchMemory.h"
 #include "ManagedObject.h"
 
 #include <QObject>
@@ -122,6 +122,7 @@ class ManagedObjectContext : public QObject {
     std::vector<std::unique_ptr<ManagedObject>> m_deletedObjects;
     ObjectChanges m_unsaved;
     ObjectChanges m_unannounced;
+    FetchMemory m_memory;
     bool m_willAnnounce = false;
     bool m_mergesChanges = false;
     QTimer m_mergeTimer{this};

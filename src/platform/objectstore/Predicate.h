@@ -34,6 +34,11 @@ class Predicate {
     /// The constants that the ? of sql() stand for.
     [[nodiscard]] const std::vector<Value>& arguments() const { return m_arguments; }
 
+    /// Whether both are of one text and the same constants.
+    friend bool operator==(const Predicate& a, const Predicate& b) {
+        return a.m_format == b.m_format && a.m_arguments == b.m_arguments;
+    }
+
     struct Node;
 
   private:

@@ -1,5 +1,7 @@
 #include "support/Book.h"
 
+#include <random>
+
 namespace kovamo {
 namespace {
 
@@ -50,6 +52,41 @@ TEST(Context, MergesWhatAnotherWriterSaved) {
     book.elsewhere("DELETE FROM \"Transaction\" WHERE amount = 1");
     book.context.save();
     EXPECT_EQ(Book().amounts(), (Amounts{5, 20, 3})) << "the edit was lost";
+}
+
+TEST(Context, RemembersNoFetchBeyondAChange) {
+    Book book;
+    book.context.setAutomaticallyMergesChangesFromParent(true);
+    const FetchRequest requests[] = {
+        transactions(Predicate(QStringLiteral("amount < %@"), {Value(5)})),
+        transactions(Predicate(QStringLiteral("amount < %@"), {Value(7)}),
+                     {{QStringLiteral("amount"), false}})};
+    std::mt19937 random(5);
+    for (int step = 0; step < 300; ++step) {
+        const auto all = book.all();
+        Transaction* any = all.empty() ? nullptr : all[random() % all.size()];
+        const auto amount = static_cast<std::int32_t>(random() % 10);
+        const auto change = random() % 6;
+        if (change == 0 || !any)
+            book.add({amount});
+        else if (change == 1)
+            any->setAmount(amount);
+        else if (change == 2)
+            book.context.deleteObject(*any);
+        else if (change == 3)
+            book.context.save();
+        else if (change == 4)
+            book.elsewhere("UPDATE \"Transaction\" SET amount = (amount + 3) % 10");
+        for (const FetchRequest& request : requests) {
+            std::vector<ObjectID> ids;
+            for (const Transaction* transaction : book.all(request))
+                ids.push_back(transaction->objectID());
+            EXPECT_EQ(ids, book.context.fetchIDs(request)) << step;
+            if (book.context.hasChanges())
+                continue;
+            EXPECT_EQ(book.amounts(request), Book().amounts(request)) << step;
+        }
+    }
 }
 
 TEST(Context, KeepsAnotherWritersRecordApartFromADeletedOne) {
