@@ -147,9 +147,10 @@ TEST_F(App, HasTheMeasuresOfItsDesign) {
     EXPECT_TRUE(visit.shows("+ $50"));
     visit.setReducedMotion(false);
     const std::tuple<const char*, const char*, double> measures[] = {
-        {"Banner_QML", "height", 100 + 2 * 16}, {"RollingNumber", "duration", 250},
-        {"kovamo::ViewItem", "x", 16},          {"TransactionChart_QML", "chartHeight", 240},
-        {"TimeFramePicker_QML", "height", 51},
+        {"Banner_QML", "height", 100 + 2 * 16},
+        {"kovamo::RollingNumber", "duration", 250},
+        {"kovamo::ViewItem", "height", 200 + 2 * 20},
+        {"TimeFramePicker_QML", "height", 1 + 50},
     };
     for (const auto& [type, property, value] : measures)
         EXPECT_EQ(visit.measure(type, property), value) << type << ", " << property;

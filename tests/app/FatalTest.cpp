@@ -1,11 +1,10 @@
-#include "app/RootView.h"
-#include "platform/foundation/UserDefaults.h"
 #include "support/Book.h"
 #include "support/Server.h"
 
 #include <QDBusConnection>
 #include <QDir>
 #include <QTest>
+#include <fstream>
 
 namespace kovamo {
 namespace {
@@ -28,7 +27,9 @@ class Notifications : public QObject {
 
 TEST(FatalError, IsShownByTheDesktopAndLeavesNoCore) {
     const Book book({{300}});
-    UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
+    const QString config = World::folder() + u"/xdg_config_home/Kovamo";
+    QDir().mkpath(config);
+    std::ofstream(config.toStdString() + "/Kovamo.conf") << "onboardingFinished=true\n";
     book.elsewhere("UPDATE \"Transaction\" SET title = NULL");
     const Server session{"dbus-daemon", {"--session", "--print-address", "--nofork"}};
     QDBusConnection bus = QDBusConnection::connectToBus(session.address, QStringLiteral("desktop"));
