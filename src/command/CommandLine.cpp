@@ -3,11 +3,13 @@
 #include "Call.h"
 #include "Commands.h"
 #include "Output.h"
+#include "platform/foundation/FatalError.h"
 #include "platform/objectstore/file/StoreError.h"
 
 #include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 namespace kovamo {
 
@@ -57,6 +59,8 @@ std::optional<int> runCommand(const QStringList& arguments) {
         return std::nullopt;
     // Whoever reads the output may go: then writing fails, and the command ends as it is meant to.
     std::signal(SIGPIPE, SIG_IGN);
+    // Whoever calls a command wants an exit status, not a crash.
+    setFatalErrorWitness([](const QString&) { std::_Exit(static_cast<int>(ExitStatus::notDone)); });
     return static_cast<int>(run(*command, arguments.mid(1)));
 }
 

@@ -101,8 +101,9 @@ QString summaryOf(const ImportReport& report) {
         text += QStringLiteral(", %1 that cannot be read").arg(report.faultCount);
     text += u'\n';
     if (report.rounded > 0)
-        text += QStringLiteral("%1 amounts were rounded, by %2 in all\n")
+        text += QStringLiteral("%1 %2 rounded, by %3 in all\n")
                     .arg(report.rounded)
+                    .arg(QLatin1String(report.rounded == 1 ? "amount was" : "amounts were"))
                     .arg(static_cast<double>(report.roundedSum) / 100, 0, 'f', 2);
     return text;
 }

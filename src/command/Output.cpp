@@ -60,7 +60,10 @@ void OutputFile::commit() {
 }
 
 void OutputFile::fail() const {
-    failToWrite(m_name, m_device->errorString());
+    const int code = errno;
+    // A file that appears whole does not say why it could not be written.
+    const bool saysNothing = m_whole && m_device->error() == QFileDevice::WriteError;
+    failToWrite(m_name, saysNothing ? qt_error_string(code) : m_device->errorString());
 }
 
 QString inOneLine(QString text) {

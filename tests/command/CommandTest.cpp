@@ -82,6 +82,13 @@ TEST(Command, AnswersEachCall) {
     EXPECT_EQ(filesBeside(path), before) << "they only read";
 }
 
+TEST(Command, SaysWhatItCannotSumUp) {
+    const Book book({{2'000'000'000, "2001-01-05", "monthly", "2100-01-05"}});
+    const Ended run(QStringLiteral("balance --frame 12"));
+    EXPECT_EQ(run.exitCode(), 1);
+    EXPECT_TRUE(run.errors.startsWith("Fatal error: Arithmetic overflow")) << run.errors.data();
+}
+
 TEST(Import, TakesInWhatWasExportedAndNothingOfABadFile) {
     const Book book({{100}, {30, "2001-01-05", "monthly", "2100-01-05", false}});
     const QString folder = World::folder();
