@@ -13,9 +13,9 @@ class ImageAssets : public QObject {
     QML_SINGLETON
 
   public:
-    /// The address of the picture `name` in the light or dark appearance; empty where there is
-    /// none.
-    Q_INVOKABLE [[nodiscard]] static QUrl url(const QString& name, bool dark);
+    /// The address of the picture `name` in the light or dark appearance, composed for a wide
+    /// screen where that is asked for and there is such a one; empty where there is no picture.
+    Q_INVOKABLE [[nodiscard]] static QUrl url(const QString& name, bool dark, bool wide = false);
 };
 
 } // namespace kovamo
