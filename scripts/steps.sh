@@ -45,15 +45,21 @@ library_packages=(
 
 build_packages=("${library_packages[@]}" cmake g++ ninja-build unicode-data)
 
-# The accessibility test starts a display and buses of its own; the privacy test traces the app;
-# what reads a journal reads the app's.
+# The accessibility test starts a display and buses of its own, the phone's test a compositor and an
+# on-screen keyboard; the privacy test traces the app; what reads a journal reads the app's.
 test_packages=(
     at-spi2-core
     dbus-daemon
+    grim
     hledger
     ledger
     libgtest-dev
+    libwayland-dev
+    phoc
+    pkgconf
+    squeekboard
     strace
+    wlr-randr
     xvfb
 )
 

@@ -1,0 +1,186 @@
+#include "Finger.h"
+#include "support/Server.h"
+#include "support/World.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QDir>
+#include <QImage>
+#include <QStandardPaths>
+#include <QTest>
+#include <memory>
+
+namespace kovamo {
+namespace {
+
+constexpr QSize upright(360, 720), turned(720, 360);
+constexpr QRgb white = 0xFFFFFFFF, accent = 0xFF007AFF, ground = 0xFFF2F2F7;
+
+/// The app in a phone's shell: a compositor without a display, an on-screen keyboard, a finger.
+class Phone : public testing::Test {
+  protected:
+    void SetUp() override {
+        for (const char* program : {"dbus-daemon", "grim", "phoc", "squeekboard", "wlr-randr"})
+            if (QStandardPaths::findExecutable(QString::fromLatin1(program)).isEmpty())
+                GTEST_SKIP() << program << " is not installed";
+        bus = std::make_unique<Server>("dbus-daemon",
+                                       QStringList{"--session", "--print-address", "--nofork"});
+        const QDir scratch(World::folder());
+        const QString sockets = scratch.filePath("run");
+        scratch.mkpath("run");
+        scratch.mkpath("settings/glib-2.0/settings");
+        QFile::setPermissions(sockets, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        write(scratch.filePath("phoc.ini"), "[core]\nxwayland=false\n");
+        write(scratch.filePath("settings/glib-2.0/settings/keyfile"),
+              "[org/gnome/desktop/a11y/applications]\nscreen-keyboard-enabled=true\n");
+        const QMap<QString, QString> variables{{"DBUS_SESSION_BUS_ADDRESS", bus->address},
+                                               {"GSETTINGS_BACKEND", "keyfile"},
+                                               {"LC_ALL", "en_US.UTF-8"},
+                                               {"QT_QPA_PLATFORM", "wayland"},
+                                               {"WAYLAND_DISPLAY", "wayland-0"},
+                                               {"WLR_BACKENDS", "headless"},
+                                               {"WLR_LIBINPUT_NO_DEVICES", "1"},
+                                               {"WLR_RENDERER", "pixman"},
+                                               {"XDG_CONFIG_HOME", scratch.filePath("settings")},
+                                               {"XDG_CURRENT_DESKTOP", "Phosh:GNOME"},
+                                               {"XDG_RUNTIME_DIR", sockets}};
+        for (auto variable = variables.begin(); variable != variables.end(); ++variable)
+            environment.insert(variable.key(), variable.value());
+        start(compositor, "phoc", {"-C", scratch.filePath("phoc.ini")});
+        const QString socket = sockets + u"/wayland-0";
+        ASSERT_TRUE(soon([&] { return QFile::exists(socket); })) << "phoc does not start";
+        run("wlr-randr", {"--output", "HEADLESS-1", "--custom-mode", "360x720"});
+        // The keyboard wants a seat, which there is once something points.
+        finger = std::make_unique<Finger>(qPrintable(socket));
+        ASSERT_TRUE(finger->isThere());
+        start(keyboard, "squeekboard", {});
+        ASSERT_TRUE(soon([&] { return !keyboardShown().isEmpty(); })) << "no keyboard";
+        start(app, KOVAMO_EXECUTABLE, {"--demo"});
+    }
+    ~Phone() override {
+        for (QProcess* process : {&app, &keyboard, &compositor}) {
+            process->kill();
+            process->waitForFinished();
+        }
+        QDBusConnection::disconnectFromBus("phone");
+    }
+
+    static bool soon(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 60000); }
+    static void write(const QString& path, const char* content) {
+        QFile file(path);
+        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(content) > 0);
+    }
+    void start(QProcess& process, const char* program, const QStringList& arguments) {
+        process.setProcessEnvironment(environment);
+        process.start(QString::fromLocal8Bit(program), arguments);
+    }
+    QByteArray run(const char* program, const QStringList& arguments) {
+        QProcess process;
+        start(process, program, arguments);
+        EXPECT_TRUE(process.waitForFinished()) << program;
+        return process.readAllStandardOutput();
+    }
+    QImage screen() {
+        return QImage::fromData(run("grim", {"-t", "ppm", "-"}))
+            .convertToFormat(QImage::Format_RGB32);
+    }
+    void turn(const char* how) { run("wlr-randr", {"--output", "HEADLESS-1", "--transform", how}); }
+
+    /// "true", "false" or, where there is no keyboard yet, nothing.
+    QString keyboardShown() const {
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            "sm.puri.OSK0", "/sm/puri/OSK0", "org.freedesktop.DBus.Properties", "Get");
+        call << "sm.puri.OSK0"
+             << "Visible";
+        const QDBusReply<QVariant> reply =
+            QDBusConnection::connectToBus(bus->address, "phone").call(call);
+        return reply.isValid() ? reply.value().toString() : QString();
+    }
+
+    /// Whether the main screen comes to fill a screen of a size, from corner to corner.
+    bool fills(QSize size) {
+        return soon([&] {
+            const QImage image = screen();
+            const int right = size.width() - 1, bottom = size.height() - 1;
+            for (const QPoint corner : {QPoint(0, 0), {right, 0}, {0, bottom}, {right, bottom}})
+                if (image.size() != size || image.pixel(corner) != white)
+                    return false;
+            return contains(image, {size.width() - 44, 0, 44, 44}, accent) &&
+                   contains(image, {0, bottom - 50, size.width(), 50}, 0xFF000000);
+        });
+    }
+    static bool contains(const QImage& image, const QRect& area, QRgb color) {
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                if (image.pixel(x, y) == color)
+                    return true;
+        return false;
+    }
+    /// Where the caret comes to be seen in the form: a run of its colour down a column.
+    QPoint caret() {
+        QPoint found;
+        EXPECT_TRUE(soon([&] {
+            const QImage image = screen();
+            for (int x = 0; x < image.width(); ++x)
+                for (int y = 60, length = 0; y < image.height(); ++y) {
+                    length = image.pixel(x, y) == accent ? length + 1 : 0;
+                    if (length == 16) {
+                        found = {x, y};
+                        return true;
+                    }
+                }
+            return false;
+        })) << "the caret is not seen";
+        return found;
+    }
+    /// Whether the card of the form's last row comes to stand whole above the keyboard.
+    bool showsLastRow(int x) {
+        return soon([&] {
+            const QImage image = screen();
+            int white44 = 0;
+            for (int y = 60; y < image.height(); ++y) {
+                if (image.pixel(x, y) == ground && white44 >= 44 && white44 <= 50)
+                    return true;
+                white44 = image.pixel(x, y) == white ? white44 + 1 : 0;
+            }
+            return false;
+        });
+    }
+
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    std::unique_ptr<Server> bus;
+    std::unique_ptr<Finger> finger;
+    QProcess compositor, keyboard, app;
+};
+
+TEST_F(Phone, ShowsTheAppUprightAndTurnedWithTheKeyboardUp) {
+    ASSERT_TRUE(fills(upright));
+    turn("90");
+    EXPECT_TRUE(fills(turned));
+    turn("normal");
+    ASSERT_TRUE(fills(upright));
+
+    finger->tap({338, 22}, upright);
+    ASSERT_TRUE(soon([&] { return keyboardShown() == u"true"; }));
+    const QPoint empty = caret();
+    const QPoint keyQ(18, 545);
+    EXPECT_TRUE(soon([&] { return screen().pixel(2, keyQ.y()) != ground; }));
+    finger->tap(keyQ, upright);
+    QPoint typed;
+    EXPECT_TRUE(soon([&] { return (typed = caret()).x() > empty.x() + 5; })) << "no key arrives";
+    turn("90");
+    EXPECT_TRUE(soon([&] { return screen().size() == turned; }));
+    EXPECT_LT(caret().y(), 180) << "the field is behind the keyboard";
+    finger->drag({300, 130}, {300, 65}, turned);
+    finger->drag({300, 130}, {300, 65}, turned);
+    finger->drag({300, 130}, {300, 65}, turned);
+    finger->drag({300, 130}, {300, 65}, turned);
+    EXPECT_TRUE(showsLastRow(140)) << "Save cannot be reached";
+    turn("normal");
+    EXPECT_TRUE(soon([&] { return screen().size() == upright; }));
+    EXPECT_TRUE(soon([&] { return caret() == typed; })) << "what was typed is lost";
+}
+
+} // namespace
+} // namespace kovamo
