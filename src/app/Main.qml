@@ -68,6 +68,13 @@ Window {
                 "onboarding": window.root.onboarding
             })
     }
+    Loader {
+        active: window.root.onboardingFinished && window.root.wayBack !== null && window.root.wayBack.offered
+
+        Component.onCompleted: setSource("WayBackCard.qml", {
+                "wayBack": window.root.wayBack
+            })
+    }
     LateLoader {
         file: Qt.resolvedUrl("RatingPrompt.qml")
         properties: ({

@@ -17,11 +17,11 @@ constexpr int onboardingPages = 4;
 
 } // namespace
 
-RootView::RootView(ManagedObjectContext& viewContext)
+RootView::RootView(ManagedObjectContext& viewContext, WayBack* wayBack)
     : m_today(Calendar().today()),
       m_onboardingFinished(UserDefaults::standard().boolean(onboardingFinishedKey())),
       m_onboarding(onboardingPages),
-      m_content(viewContext, &ReviewHandler::requestReviewIfAppropriate) {
+      m_content(viewContext, &ReviewHandler::requestReviewIfAppropriate), m_wayBack(wayBack) {
     connect(&m_onboarding, &OnboardingView::finished, this, &RootView::finishOnboarding);
     connect(&m_dayTimer, &QTimer::timeout, this, &RootView::showToday);
     m_dayTimer.setTimerType(Qt::VeryCoarseTimer);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "StartAction.h"
+#include "WayBack.h"
 #include "dashboard/ContentView.h"
 #include "engagement/OnboardingView.h"
 #include "platform/foundation/Calendar.h"
@@ -21,15 +22,17 @@ class RootView : public QObject {
     Q_PROPERTY(bool onboardingFinished READ onboardingFinished NOTIFY onboardingFinishedChanged)
     Q_PROPERTY(kovamo::OnboardingView* onboarding READ onboarding CONSTANT)
     Q_PROPERTY(kovamo::ContentView* content READ content CONSTANT)
+    Q_PROPERTY(kovamo::WayBack* wayBack READ wayBack CONSTANT)
     Q_PROPERTY(bool mirrored READ isMirrored CONSTANT)
 
   public:
-    /// Requires: `viewContext` outlives the view.
-    explicit RootView(ManagedObjectContext& viewContext);
+    /// `wayBack` is shown over the main screen. Requires: both outlive the view.
+    explicit RootView(ManagedObjectContext& viewContext, WayBack* wayBack = nullptr);
 
     [[nodiscard]] bool onboardingFinished() const { return m_onboardingFinished; }
     [[nodiscard]] OnboardingView* onboarding() { return &m_onboarding; }
     [[nodiscard]] ContentView* content() { return &m_content; }
+    [[nodiscard]] WayBack* wayBack() const { return m_wayBack; }
 
     /// Opens what a start of the app asks for; nothing before the onboarding is finished or while a
     /// sheet is open, for what is typed there is not to be lost.
@@ -53,6 +56,7 @@ class RootView : public QObject {
     bool m_onboardingFinished;
     OnboardingView m_onboarding;
     ContentView m_content;
+    WayBack* m_wayBack;
 };
 
 } // namespace kovamo

@@ -102,7 +102,8 @@ int show(const Options& options) {
         addSampleData(viewContext(app));
         UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
     }
-    RootView root(viewContext(app));
+    WayBack wayBack(*app.persistenceController.container);
+    RootView root(viewContext(app), &wayBack);
     QQmlApplicationEngine engine;
     QQuickWindow& window = KovamoApp::showWindow(engine, root);
     root.perform(options.action);

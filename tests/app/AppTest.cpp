@@ -14,7 +14,7 @@ namespace {
 /// The running app on the store of a book, from its start to its end.
 class Visit {
   public:
-    explicit Visit(Book& book) : m_root(book.context) {
+    explicit Visit(Book& book) : m_wayBack(book.container), m_root(book.context, &m_wayBack) {
         failOnWarnings(m_engine);
         m_window = &KovamoApp::showWindow(m_engine, m_root);
         m_window->setProperty("reducedMotion", true);
@@ -101,6 +101,7 @@ class Visit {
 
   private:
     static bool soon(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 30000); }
+    WayBack m_wayBack;
     RootView m_root;
     QQmlApplicationEngine m_engine;
     QQuickWindow* m_window = nullptr;
@@ -361,6 +362,26 @@ TEST_F(App, AsksForStarsAtTheFourthStart) {
         EXPECT_TRUE(visit.hides("Enjoying Kovamo?"));
         EXPECT_TRUE(visit.focusComesToBeSeen());
     }
+}
+
+TEST_F(App, OffersTheCopyOfAStoreThatIsGone) {
+    const auto start = [](bool goesBack) {
+        Book book;
+        book.context.setAutomaticallyMergesChangesFromParent(true);
+        Visit visit(book);
+        EXPECT_TRUE(visit.has("Go Back to the Copy of May 15, 2024"));
+        visit.click(goesBack ? "Go Back to the Copy of May 15, 2024" : "Keep Empty");
+        EXPECT_TRUE(visit.lacks("Keep Empty"));
+        EXPECT_TRUE(visit.shows(goesBack ? "title" : "🙄 create a transaction"));
+    };
+    (void)Book({{30}});
+    (void)Book({{40}});
+    ASSERT_TRUE(QFile::remove(Book().container.storePath()));
+    start(false);
+    start(true);
+    Book book;
+    EXPECT_EQ(book.amounts(), std::vector<std::int32_t>{30});
+    EXPECT_TRUE(Visit(book).lacks("Keep Empty"));
 }
 
 } // namespace

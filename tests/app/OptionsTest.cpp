@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace kovamo {
 namespace {
@@ -92,6 +94,23 @@ TEST(SecondStart, HandsItsActionToTheFirst) {
     }
     EXPECT_EQ(heard, QList({StartAction::none, StartAction::newTransaction,
                             StartAction::allTransactions}));
+}
+
+TEST(Options, AreAnsweredAlsoWhereNobodyReads) {
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    const pid_t app = ::fork();
+    if (app == 0) {
+        ::dup2(ends[1], STDOUT_FILENO);
+        ::close(ends[0]);
+        ::execl(KOVAMO_EXECUTABLE, "kovamo", "--version", nullptr);
+        ::_exit(127);
+    }
+    ::close(ends[0]);
+    ::close(ends[1]);
+    int status = 0;
+    ::waitpid(app, &status, 0);
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << WTERMSIG(status);
 }
 
 } // namespace

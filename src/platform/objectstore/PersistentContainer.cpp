@@ -1,8 +1,10 @@
 #include "PersistentContainer.h"
 
 #include "Store.h"
+#include "StoreInspection.h"
 #include "platform/foundation/FatalError.h"
 
+#include <QFileInfo>
 #include <QStandardPaths>
 
 namespace kovamo {
@@ -30,6 +32,22 @@ void PersistentContainer::loadPersistentStores(
     }
     m_viewContext = std::make_unique<ManagedObjectContext>(*m_store, m_entity);
     completion(nullptr);
+}
+
+std::optional<FormerStore> PersistentContainer::formerStore() const {
+    try {
+        const std::optional<QString> copy = m_store->copyOfFormer();
+        if (!copy)
+            return {};
+        constexpr qsizetype dayLength = 10;
+        FormerStore former{.copyPath = *copy,
+                           .day = QFileInfo(*copy).completeBaseName().last(dayLength)};
+        former.records = StoreInspection(*copy, m_entity).count();
+        return former.records > 0 ? std::optional(former) : std::nullopt;
+    } catch (const StoreError&) {
+        // A copy that cannot be read is none to go back to.
+        return {};
+    }
 }
 
 ManagedObjectContext& PersistentContainer::viewContext() const {

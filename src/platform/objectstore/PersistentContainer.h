@@ -9,6 +9,14 @@
 
 namespace kovamo {
 
+/// What is left of a store: a copy that it kept.
+struct FormerStore {
+    QString copyPath;
+    /// The day that the copy's name bears.
+    QString day;
+    std::int64_t records = 0;
+};
+
 /// A store with the context that the screens work on.
 class PersistentContainer {
   public:
@@ -27,6 +35,10 @@ class PersistentContainer {
     /// Opens the store, making it where there is none, and calls `completion` with nothing, or
     /// with the error.
     void loadPersistentStores(const std::function<void(const StoreError*)>& completion);
+
+    /// What another store left that was here before, where the present one has no records: nothing
+    /// else tells the user of it. Requires that the store is loaded.
+    [[nodiscard]] std::optional<FormerStore> formerStore() const;
 
     /// The main context. Requires that the store is loaded; anything else is a fatal error.
     [[nodiscard]] ManagedObjectContext& viewContext() const;

@@ -327,6 +327,14 @@ bool Store::write(const ObjectChanges& changes) {
     });
 }
 
+std::optional<QString> Store::copyOfFormer() const {
+    return guarded(m_path, [&]() -> std::optional<QString> {
+        if (largestID() != 0)
+            return {};
+        return StoreCopy::newestOfFormer(*m_database, m_path);
+    });
+}
+
 bool Store::changedElsewhere() {
     return guarded(m_path, [&] {
         const int version = static_cast<int>(integer(QStringLiteral("PRAGMA data_version")));

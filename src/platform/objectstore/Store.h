@@ -72,6 +72,10 @@ class Store {
     /// taken the identity of an inserted record.
     [[nodiscard]] bool write(const ObjectChanges& changes);
 
+    /// The newest copy that another store left, which was at this path before; nothing where this
+    /// one has records.
+    [[nodiscard]] std::optional<QString> copyOfFormer() const;
+
     /// Whether another writer has saved since this was last asked.
     [[nodiscard]] bool changedElsewhere();
 
@@ -79,7 +83,7 @@ class Store {
     /// empty.
     [[nodiscard]] bool isReplaced() const;
 
-    /// Whether there is a file at the store's path.
+    /// Whether there is a file at the store's path that is not empty, as one in the making is.
     [[nodiscard]] bool isThere() const;
 
     /// Opens what lies at the path now, or makes it, and closes the file that was open before. When

@@ -1,0 +1,23 @@
+import QtQuick
+import Kovamo.Controls
+import Kovamo.Desktop
+
+/*! One answer to what a card asks. */
+Pressable {
+    id: button
+
+    implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight + Metrics.padding)
+
+    PlainText {
+        id: caption
+
+        Accessible.ignored: true
+        anchors.centerIn: parent
+        color: SystemColors.accent
+        horizontalAlignment: Text.AlignHCenter
+        maximumLineCount: 3
+        text: button.text
+        width: parent.width
+        wrapMode: Text.Wrap
+    }
+}
