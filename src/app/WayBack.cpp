@@ -6,6 +6,8 @@
 #include "platform/foundation/NotificationCenter.h"
 #include "platform/objectstore/file/KeptCopies.h"
 
+#include <QDateTime>
+
 namespace kovamo {
 
 namespace {

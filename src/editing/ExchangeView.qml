@@ -3,6 +3,10 @@ import Kovamo.Controls
 import Kovamo.Editing
 import Kovamo.Forms
 
+// Sheet and NavigationStack create their content from components in other files, which pragma
+// ComponentBehavior: Bound does not allow; so the ids of this file are used unqualified.
+// qmllint disable unqualified
+
 /*! What an export, an import or a copy brings, and the button that goes on. */
 NavigationStack {
     id: screen

@@ -1,7 +1,10 @@
 import QtQuick
 import Kovamo.Controls
-import Kovamo.Desktop
 import Kovamo.Editing
+
+// Sheet and NavigationStack create their content from components in other files, which pragma
+// ComponentBehavior: Bound does not allow; so the ids of this file are used unqualified.
+// qmllint disable unqualified
 
 /*! The list of all transactions. Pulled down beyond its top it uncovers the search. */
 FocusScope {

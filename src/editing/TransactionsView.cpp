@@ -19,8 +19,7 @@ FetchRequest largestFirst() {
 
 TransactionsView::TransactionsView(ManagedObjectContext& viewContext)
     : LiveFetch(viewContext, largestFirst()), m_viewContext(viewContext),
-      m_exchange(viewContext.storePath()), m_search(viewContext, *this),
-      m_deleted(viewContext) {
+      m_exchange(viewContext.storePath()), m_search(viewContext, *this), m_deleted(viewContext) {
     viewContext.prepareToSave();
 }
 

@@ -64,8 +64,11 @@ std::vector<SearchWord> searchWords(const QString& query) {
     // A blank that does not break a line groups the digits of an amount.
     static const QRegularExpression blanks(QStringLiteral("[^\\S\\x{A0}\\x{2007}\\x{202F}]+"));
     std::vector<SearchWord> words;
+    static const QRegularExpression currency(QStringLiteral("^\\p{Sc}+$"));
     for (const QString& word : query.split(blanks, Qt::SkipEmptyParts))
-        words.push_back(searchWord(word));
+        // "1 200 €": the currency stands apart and is no word to find.
+        if (!currency.match(word).hasMatch())
+            words.push_back(searchWord(word));
     return words;
 }
 

@@ -181,8 +181,9 @@ TEST(StackedColumns, StandOnEachOtherFromTheBottomAndRepeatTheirColors) {
         return AnyView(DefaultStackedColumnView{row, {red, blue}});
     };
     expectColors(
-        drawn(Chart(rows), StackedColumnChartStyle{10, column, 0}), "20 90 r  20 65 b  20 40 b  20 21 b  20 19 -  0.5 21 b  50 90 -  80 90 r  80 61 r  "
-               "80 59 -");
+        drawn(Chart(rows), StackedColumnChartStyle{10, column, 0}),
+        "20 90 r  20 65 b  20 40 b  20 21 b  20 19 -  0.5 21 b  50 90 -  80 90 r  80 61 r  "
+        "80 59 -");
 }
 
 } // namespace

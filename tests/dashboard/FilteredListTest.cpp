@@ -57,7 +57,7 @@ TEST(FilteredList, FollowsAnyChangeRowByRow) {
 }
 
 TEST(FilteredList, SaysHowOftenAndWhen) {
-    Book book({{100, "2024-05-20"}, {30, "2024-05-02", "monthly"}, {20, "2019-07-04", "yearly"}});
+    Book book({{100, "2024-05-20"}, {30, "2024-05-02", "monthly"}, {20, "2019-06-04", "yearly"}});
     FilteredList list;
     list.setTransactionContainer(loaded(book, 2));
     EXPECT_EQ(rows(list), "title, earning, $100, May 20, 2024 | "

@@ -2,7 +2,6 @@ import QtQuick
 import Kovamo.Controls
 import Kovamo.Emoji
 import Kovamo.Forms
-import Kovamo.Desktop
 
 /*! What a sheet shows to choose an emoji: a search, the emoji by category, and the categories to
     jump to. A letter typed anywhere begins the search. */

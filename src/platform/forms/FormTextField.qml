@@ -39,6 +39,13 @@ FormRow {
         input.cursorPosition = Math.max(0, input.length - behind);
     }
 
+    function take() {
+        // An on-screen keyboard can write into a field that is read-only.
+        if (field.unseen === "")
+            field.edited(input.text);
+        field.follow();
+    }
+
     /*! Leaves the text: without a field that has the focus, there is no keyboard on the screen. */
     function leave() {
         if (field.next)
@@ -112,10 +119,7 @@ FormRow {
         }
 
         onAccepted: field.leave()
-        onTextEdited: {
-            field.edited(input.text);
-            field.follow();
-        }
+        onTextEdited: field.take()
 
         PlainText {
             Accessible.ignored: true
