@@ -296,8 +296,8 @@ void ManagedObjectContext::goOnElsewhere() {
     for (auto& [id, object] : m_objects)
         objects.push_back(std::move(object));
     m_objects.clear();
-    std::ranges::stable_partition(objects,
-                                  [](const auto& object) { return !object->m_values.empty(); });
+    std::stable_partition(objects.begin(), objects.end(),
+                          [](const auto& object) { return !object->m_values.empty(); });
     for (std::unique_ptr<ManagedObject>& object : objects) {
         object->m_isStale = !object->m_isInserted && !object->m_isUpdated && !object->m_isDeleted;
         object->m_objectID = placeOf(*object);
