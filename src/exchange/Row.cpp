@@ -5,6 +5,7 @@
 
 #include <QUtf8StringView>
 #include <charconv>
+#include <iterator>
 
 namespace kovamo {
 
@@ -37,7 +38,7 @@ void write(Cell& cell, const Value& value, ZoneOffset& zone) {
         text = text.left(most) + u'…';
     const auto name = columnNames[std::size_t(column)];
     throw Fault{QStringLiteral("The %1 \"%2\" is no %3")
-                    .arg(QLatin1String(name.data(), name.size()), text, QLatin1String(demand))};
+                    .arg(QLatin1String(name.data(), std::ssize(name)), text, QLatin1String(demand))};
 }
 
 Value text(Column column, const Cell& cell) {
