@@ -148,10 +148,13 @@ std::optional<Instant> instantOf(std::int64_t day, std::int64_t time) {
 } // namespace
 
 void appendIso8601(std::string& text, Instant instant, ZoneOffset& zone) {
-    const minutes offset = zone.at(instant);
+    // At the ends of 64 bits a local time can be beyond them.
+    const bool isAtAnEnd = instant < Instant::min() + days(1) || instant > Instant::max() - days(1);
+    const minutes offset = isAtAnEnd ? minutes(0) : zone.at(instant);
     const std::int64_t local = (instant + offset).time_since_epoch().count();
     const std::int64_t dayCount = floorDivide(local, millisecondsOfDay);
-    const std::int64_t time = local - dayCount * millisecondsOfDay;
+    const std::int64_t rest = local % millisecondsOfDay;
+    const std::int64_t time = rest < 0 ? rest + millisecondsOfDay : rest;
     const Date date = dateOf(dayCount);
     if (date.year < 0 || date.year > 9999)
         text += date.year < 0 ? '-' : '+';

@@ -187,7 +187,8 @@ TEST_F(App, LetsTheBalanceScrollAwayOnAShortScreen) {
         visit.resize(size);
         EXPECT_TRUE(visit.isInSight("Your Kovamo is positive 👍", true)) << "at first, in all";
         visit.drag({100, size.height() - 60}, {0, 150 - size.height()});
-        EXPECT_TRUE(visit.isInSight("Your Kovamo is positive 👍", size.height() > 480));
+        EXPECT_TRUE(visit.isInSight("Your Kovamo is positive 👍", size.height() > 480))
+            << size.width();
     }
 }
 

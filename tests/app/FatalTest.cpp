@@ -26,7 +26,7 @@ class Notifications : public QObject {
 };
 
 TEST(FatalError, IsShownByTheDesktopAndLeavesNoCore) {
-    const Book book({{300}});
+    const Book book({{300, "2024-05-15", "monthly", "2100-01-01"}});
     const QString config = World::folder() + u"/xdg_config_home/Kovamo";
     QDir().mkpath(config);
     std::ofstream(config.toStdString() + "/Kovamo.conf") << "onboardingFinished=true\n";

@@ -4,6 +4,7 @@
 #include "Fuzz.h"
 #include "editing/TransactionLine.h"
 #include "editing/TransactionsView.h"
+#include "platform/foundation/ShownText.h"
 #include "platform/objectstore/Store.h"
 
 #include <cstring>
@@ -30,7 +31,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const TransactionLine line(transaction);
     check(line.amount.size() > 2 && line.amount.startsWith(isPositive ? u"+ " : u"- "),
           "there is an amount");
-    check(line.sentence.startsWith(title), "a title is a title");
+    check(line.sentence.startsWith(shownText(title)), "a title is a title");
 
     static Store store(scratchPath(QStringLiteral("store.sqlite")), Transaction::entity());
     ManagedObjectContext context(store, Transaction::entity());
