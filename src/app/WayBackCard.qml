@@ -19,7 +19,7 @@ T.Popup {
     horizontalPadding: Metrics.padding
     topPadding: 20
     visible: wayBack.offered
-    width: Math.min(320, parent ? parent.width - 2 * Metrics.padding : 320)
+    width: Math.min(320, (T.Overlay.overlay?.width ?? 390) - 2 * Metrics.padding)
 
     background: Item {
         GradientPanel {
