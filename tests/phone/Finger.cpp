@@ -49,6 +49,9 @@ Finger::Finger(const char* display) : m_display(wl_display_connect(display)) {
 }
 
 Finger::~Finger() {
+    for (wl_proxy* proxy : {m_pointer, m_manager})
+        if (proxy)
+            wl_proxy_destroy(proxy);
     if (m_display)
         wl_display_disconnect(m_display);
 }
