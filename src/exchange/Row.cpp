@@ -37,8 +37,9 @@ void write(Cell& cell, const Value& value, ZoneOffset& zone) {
     if (text.size() > most)
         text = text.left(most) + u'…';
     const auto name = columnNames[std::size_t(column)];
-    throw Fault{QStringLiteral("The %1 \"%2\" is no %3")
-                    .arg(QLatin1String(name.data(), std::ssize(name)), text, QLatin1String(demand))};
+    throw Fault{
+        QStringLiteral("The %1 \"%2\" is no %3")
+            .arg(QLatin1String(name.data(), std::ssize(name)), text, QLatin1String(demand))};
 }
 
 Value text(Column column, const Cell& cell) {
