@@ -1,5 +1,6 @@
 #include "app/KovamoApp.h"
 #include "app/RootView.h"
+#include "platform/desktop/StoreReviewController.h"
 #include "platform/foundation/UserDefaults.h"
 #include "support/Book.h"
 #include "support/FastQueue.h"
@@ -108,7 +109,11 @@ class Visit {
 };
 
 struct App : testing::Test {
-    App() { UserDefaults::standard().set(RootView::onboardingFinishedKey(), true); }
+    App() {
+        UserDefaults::standard().set(RootView::onboardingFinishedKey(), true);
+        // The test before may have ended under a sheet.
+        StoreReviewController::shared().setSheetPresented(false);
+    }
     FastQueue queue;
 };
 
