@@ -41,14 +41,11 @@ ExitStatus run(const Call& call) {
 } // namespace
 
 Command balanceCommand() {
-    return {
-        .name = QStringLiteral("balance"),
-        .summary = QStringLiteral("Print the balance of a time frame and the verdict on it."),
-        .options = {frameOption(QStringLiteral("The time frame: the current month, three months "
-                                               "or twelve.")),
-                    formatOption(formats)},
-        .operand = {},
-        .run = run};
+    return {.name = QStringLiteral("balance"),
+            .summary = QStringLiteral("Print the balance of a time frame and the verdict on it."),
+            .options = {frameOption(), formatOption(formats)},
+            .operand = {},
+            .run = run};
 }
 
 } // namespace kovamo

@@ -9,7 +9,9 @@
 namespace kovamo {
 
 /// The options that several commands have.
-[[nodiscard]] QCommandLineOption frameOption(const QString& meaning);
+[[nodiscard]] QCommandLineOption frameOption(
+    const QString& meaning = QStringLiteral("The time frame: the current month, three months or "
+                                            "twelve."));
 [[nodiscard]] QCommandLineOption formatOption(const QStringList& formats);
 
 /// A command as somebody called it.

@@ -79,14 +79,11 @@ ExitStatus run(const Call& call) {
 } // namespace
 
 Command listCommand() {
-    return {
-        .name = QStringLiteral("list"),
-        .summary = QStringLiteral("Print the transactions of a time frame, the largest first."),
-        .options = {frameOption(QStringLiteral("The time frame: the current month, three months "
-                                               "or twelve.")),
-                    formatOption(formats)},
-        .operand = {},
-        .run = run};
+    return {.name = QStringLiteral("list"),
+            .summary = QStringLiteral("Print the transactions of a time frame, the largest first."),
+            .options = {frameOption(), formatOption(formats)},
+            .operand = {},
+            .run = run};
 }
 
 } // namespace kovamo

@@ -19,7 +19,7 @@ struct Element {
 
 const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString action = QStringLiteral("org.a11y.atspi.Action");
-constexpr int checked = 4, focused = 12, modal = 16, selected = 23, sensitive = 24, showing = 25;
+constexpr int checked = 4, focused = 12, selected = 23, sensitive = 24, showing = 25;
 
 /// The app on a display and on buses of its own, as a screen reader finds it.
 class Bus : public QObject, public testing::Test {
