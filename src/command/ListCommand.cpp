@@ -2,9 +2,9 @@
 #include "Commands.h"
 #include "OpenStore.h"
 #include "Output.h"
-#include "exchange/ExchangeFormat.h"
-#include "exchange/Iso8601.h"
-#include "exchange/RecordWriter.h"
+#include "exchange/records/ExchangeFormat.h"
+#include "exchange/records/Iso8601.h"
+#include "exchange/records/RecordWriter.h"
 #include "ledger/TransactionContainer.h"
 #include "platform/foundation/Formatters.h"
 

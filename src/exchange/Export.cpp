@@ -1,6 +1,6 @@
 #include "Export.h"
 
-#include "RecordWriter.h"
+#include "exchange/records/RecordWriter.h"
 #include "platform/objectstore/Store.h"
 
 namespace kovamo {

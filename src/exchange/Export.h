@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ExchangeFormat.h"
+#include "exchange/records/ExchangeFormat.h"
 #include "platform/objectstore/Value.h"
 
 #include <QIODevice>

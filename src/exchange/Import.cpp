@@ -1,9 +1,9 @@
 #include "Import.h"
 
-#include "CsvRecordReader.h"
-#include "JsonReader.h"
 #include "KnownRecords.h"
-#include "StatementReader.h"
+#include "exchange/records/CsvRecordReader.h"
+#include "exchange/records/JsonReader.h"
+#include "exchange/statements/StatementReader.h"
 #include "model/Transaction.h"
 #include "platform/objectstore/BulkWrite.h"
 #include "platform/objectstore/file/StoreError.h"

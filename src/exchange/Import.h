@@ -1,33 +1,13 @@
 #pragma once
 
-#include "ExchangeFormat.h"
+#include "exchange/records/ImportOptions.h"
+#include "exchange/records/RecordReader.h"
 
-#include <QIODevice>
-#include <QMap>
-#include <functional>
 #include <vector>
 
 namespace kovamo {
 
 class Store;
-
-/// How a file is read.
-struct ImportOptions {
-    /// CSV or JSON.
-    ExchangeFormat format = ExchangeFormat::csv;
-    /// Passes over lines that cannot be read instead of refusing the file for them.
-    bool skipBad = false;
-    /// The header's words of a statement, by what they are: "date", "title", "amount", "debit",
-    /// "credit". They go before those that are known.
-    QMap<QString, QString> columns{};
-    /// How a statement writes its dates: "dd.MM.yyyy", made of d, M and y; empty where their shape
-    /// tells.
-    QString dateFormat{};
-    /// What stands beside the records of a statement.
-    QString emoji = QStringLiteral("🏦");
-    /// Is told, now and then, how many bytes have been read; false stops the import.
-    std::function<bool(qint64 bytes)> progress{};
-};
 
 /// A line that cannot be read.
 struct LineFault {
@@ -60,6 +40,11 @@ struct ImportReport {
     /// stopped it.
     bool isRefused = false;
 };
+
+/// A reader of `device`. Throws a Fault where that is no file of records at all. Requires that
+/// `device` outlives the reader.
+[[nodiscard]] std::unique_ptr<RecordReader> makeRecordReader(QIODevice& device,
+                                                             const ImportOptions& options);
 
 /// What importRecords() would do to `store`; writes nothing. Requires that `device` is open for
 /// reading. Throws StoreError where the store cannot be read.

@@ -1,6 +1,6 @@
 #include "Journal.h"
 
-#include "Iso8601.h"
+#include "exchange/records/Iso8601.h"
 #include "model/Transaction.h"
 #include "platform/foundation/Calendar.h"
 #include "platform/objectstore/Store.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ZoneOffset.h"
+#include "exchange/records/ZoneOffset.h"
 #include "model/TransactionPresentation.h"
 
 #include <QIODevice>

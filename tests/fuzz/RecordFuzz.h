@@ -2,8 +2,8 @@
 
 #include "Fuzz.h"
 #include "exchange/Import.h"
-#include "exchange/RecordReader.h"
-#include "exchange/RecordWriter.h"
+#include "exchange/records/RecordReader.h"
+#include "exchange/records/RecordWriter.h"
 
 #include <QBuffer>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Row.h"
+#include "exchange/records/Row.h"
 
 #include <QMap>
 #include <optional>

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "CsvReader.h"
-#include "Import.h"
-#include "RecordReader.h"
 #include "StatementAmounts.h"
 #include "StatementColumns.h"
 #include "StatementDates.h"
+#include "exchange/records/CsvReader.h"
+#include "exchange/records/ImportOptions.h"
+#include "exchange/records/RecordReader.h"
 
 #include <QHash>
 

@@ -7,8 +7,6 @@
 
 namespace kovamo {
 
-struct ImportOptions;
-
 /// How many amounts were rounded to whole numbers, and what was read less what they became, in
 /// hundredths.
 struct Rounding {
@@ -34,10 +32,5 @@ class RecordReader {
     /// How many bytes of the file have been read.
     [[nodiscard]] virtual qint64 position() const = 0;
 };
-
-/// A reader of `device`. Throws a Fault where that is no file of records at all. Requires that
-/// `device` outlives the reader.
-[[nodiscard]] std::unique_ptr<RecordReader> makeRecordReader(QIODevice& device,
-                                                             const ImportOptions& options);
 
 } // namespace kovamo
