@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/objectstore/ManagedObjectContext.h"
-#include "platform/objectstore/Store.h"
+#include "platform/objectstore/store/Store.h"
 
 namespace kovamo {
 

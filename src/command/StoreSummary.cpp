@@ -2,8 +2,8 @@
 
 #include "model/Transaction.h"
 #include "platform/foundation/Formatters.h"
-#include "platform/objectstore/StoreInspection.h"
 #include "platform/objectstore/file/StoreError.h"
+#include "platform/objectstore/store/StoreInspection.h"
 
 namespace kovamo {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ledger/TimeFrame.h"
-#include "platform/objectstore/StoreInspection.h"
+#include "platform/objectstore/store/StoreInspection.h"
 
 #include <QSet>
 #include <QUuid>

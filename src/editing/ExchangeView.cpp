@@ -5,9 +5,9 @@
 #include "model/Transaction.h"
 #include "platform/foundation/Calendar.h"
 #include "platform/foundation/Formatters.h"
-#include "platform/objectstore/Store.h"
 #include "platform/objectstore/file/KeptCopies.h"
 #include "platform/objectstore/file/StoreError.h"
+#include "platform/objectstore/store/Store.h"
 
 #include <QDate>
 #include <QFileInfo>

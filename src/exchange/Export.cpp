@@ -1,7 +1,7 @@
 #include "Export.h"
 
 #include "exchange/records/RecordWriter.h"
-#include "platform/objectstore/Store.h"
+#include "platform/objectstore/store/Store.h"
 
 namespace kovamo {
 

@@ -5,8 +5,8 @@
 #include "exchange/records/JsonReader.h"
 #include "exchange/statements/StatementReader.h"
 #include "model/Transaction.h"
-#include "platform/objectstore/BulkWrite.h"
 #include "platform/objectstore/file/StoreError.h"
+#include "platform/objectstore/store/BulkWrite.h"
 
 #include <QTemporaryFile>
 

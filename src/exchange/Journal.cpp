@@ -3,7 +3,7 @@
 #include "exchange/records/Iso8601.h"
 #include "model/Transaction.h"
 #include "platform/foundation/Calendar.h"
-#include "platform/objectstore/Store.h"
+#include "platform/objectstore/store/Store.h"
 
 #include <algorithm>
 

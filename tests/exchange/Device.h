@@ -3,7 +3,7 @@
 #include "exchange/Export.h"
 #include "exchange/Import.h"
 #include "model/Transaction.h"
-#include "platform/objectstore/BulkWrite.h"
+#include "platform/objectstore/store/BulkWrite.h"
 #include "support/World.h"
 
 #include <QBuffer>

@@ -5,8 +5,8 @@
 #include "editing/TransactionLine.h"
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
-#include "platform/objectstore/Store.h"
 #include "platform/objectstore/file/StoreError.h"
+#include "platform/objectstore/store/Store.h"
 
 #include <QFile>
 

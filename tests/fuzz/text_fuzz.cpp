@@ -5,7 +5,7 @@
 #include "editing/TransactionLine.h"
 #include "editing/TransactionsView.h"
 #include "platform/foundation/ShownText.h"
-#include "platform/objectstore/Store.h"
+#include "platform/objectstore/store/Store.h"
 
 #include <cstring>
 

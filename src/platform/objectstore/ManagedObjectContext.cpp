@@ -1,9 +1,9 @@
 #include "ManagedObjectContext.h"
 
-#include "Store.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/objectstore/file/StoreError.h"
+#include "platform/objectstore/store/Store.h"
 
 #include <QHash>
 #include <QPointer>

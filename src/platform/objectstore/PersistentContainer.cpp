@@ -1,8 +1,8 @@
 #include "PersistentContainer.h"
 
-#include "Store.h"
-#include "StoreInspection.h"
 #include "platform/foundation/FatalError.h"
+#include "platform/objectstore/store/Store.h"
+#include "platform/objectstore/store/StoreInspection.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>

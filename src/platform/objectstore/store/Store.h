@@ -1,8 +1,8 @@
 #pragma once
 
 #include "EntityTable.h"
-#include "FetchRequest.h"
 #include "StatementCache.h"
+#include "platform/objectstore/FetchRequest.h"
 #include "platform/objectstore/file/DailyCopy.h"
 #include "platform/objectstore/file/StoreFile.h"
 

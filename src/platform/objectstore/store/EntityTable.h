@@ -1,6 +1,6 @@
 #pragma once
 
-#include "EntityDescription.h"
+#include "platform/objectstore/EntityDescription.h"
 
 #include <QStringList>
 

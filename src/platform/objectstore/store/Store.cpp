@@ -1,9 +1,9 @@
 #include "Store.h"
 
 #include "Guarded.h"
-#include "ManagedObjectContext.h"
 #include "StoredValue.h"
 #include "platform/foundation/RadixSort.h"
+#include "platform/objectstore/ManagedObjectContext.h"
 #include "platform/objectstore/file/Soundness.h"
 #include "platform/objectstore/file/StoreFile.h"
 
