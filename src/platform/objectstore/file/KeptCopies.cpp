@@ -1,9 +1,9 @@
 #include "KeptCopies.h"
 
-#include "Soundness.h"
 #include "StoreCopy.h"
 #include "StoreError.h"
 #include "UnfinishedStore.h"
+#include "WriteAheadLog.h"
 #include "platform/foundation/Formatters.h"
 #include "platform/foundation/SyncFolder.h"
 
@@ -24,8 +24,6 @@
 namespace kovamo {
 
 namespace {
-
-constexpr int busyTimeoutMilliseconds = 5000;
 
 const QString setAside = QStringLiteral("set-aside-");
 
@@ -59,13 +57,10 @@ class LockedStore {
     explicit LockedStore(const QString& path)
         : m_database(path.toStdString(), SQLite::OPEN_READWRITE, busyTimeoutMilliseconds) {
         // By the time this is closed, the name and the log beside it belong to another store.
-        sqlite3_db_config(m_database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+        checkpointOnClose(m_database, false);
         do {
             m_writing.reset();
-            SQLite::Statement checkpoint(m_database, "PRAGMA wal_checkpoint(TRUNCATE)");
-            if (checkpoint.executeStep() && checkpoint.getColumn(0).getInt() != 0)
-                throw SQLite::Exception("The store is busy", SQLITE_BUSY);
-            checkpoint.reset();
+            emptyLog(m_database);
             m_writing.emplace(m_database, SQLite::TransactionBehavior::IMMEDIATE);
         } while (hasLog(path));
     }

@@ -1,5 +1,7 @@
 #include "Soundness.h"
 
+#include "WriteAheadLog.h"
+
 #include <QFileInfo>
 #include <algorithm>
 #include <memory>
@@ -49,10 +51,6 @@ QString faultOf(SQLite::Database& database) {
 bool isSealed(SQLite::Database& database, const QString& path) {
     QFile file(sealPath(path));
     return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.readAll() == digest(database);
-}
-
-bool hasLog(const QString& path) {
-    return QFileInfo(path + u"-wal").size() > 0;
 }
 
 bool isEmptied(const QString& path) {

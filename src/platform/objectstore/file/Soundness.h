@@ -14,9 +14,6 @@ namespace kovamo {
 /// amount.
 [[nodiscard]] bool isSealed(SQLite::Database& database, const QString& path);
 
-/// Whether a part of the database at `path` lies in a log beside it.
-[[nodiscard]] bool hasLog(const QString& path);
-
 /// Whether the file at `path` was sealed once and is empty now, or has gone and left its log. Where
 /// there is neither, the seal is forgotten: whoever removes a store wants a new one.
 [[nodiscard]] bool isEmptied(const QString& path);

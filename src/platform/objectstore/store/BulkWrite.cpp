@@ -10,9 +10,10 @@ namespace kovamo {
 BulkWrite::BulkWrite(Store& store) : m_store(store) {
     store.prepareToWrite();
     guarded(m_store.m_path, [&] {
-        m_inserting = store.m_statements->use(store.m_table.insertion);
-        m_updating = store.m_statements->use(store.m_table.update);
-        m_transaction.emplace(*store.m_database, SQLite::TransactionBehavior::IMMEDIATE);
+        m_inserting = store.m_connection->statements().use(store.m_table.insertion);
+        m_updating = store.m_connection->statements().use(store.m_table.update);
+        m_transaction.emplace(store.m_connection->database(),
+                              SQLite::TransactionBehavior::IMMEDIATE);
         m_nextID = store.unusedID();
     });
 }

@@ -1,13 +1,10 @@
 #pragma once
 
-#include "EntityTable.h"
-#include "StatementCache.h"
+#include "StoreConnection.h"
 #include "platform/objectstore/FetchRequest.h"
 #include "platform/objectstore/file/DailyCopy.h"
-#include "platform/objectstore/file/StoreFile.h"
 
 #include <QSet>
-#include <SQLiteCpp/Database.h>
 #include <SQLiteCpp/Transaction.h>
 #include <functional>
 #include <limits>
@@ -22,8 +19,7 @@ struct ObjectChanges;
 /// One SQLite file with one table: the entity's. All failures are thrown as StoreError.
 class Store {
   public:
-    /// What a store is opened for: only to read, nothing is made, and nothing changed beside it.
-    enum class Access { read, readAndWrite };
+    using Access = StoreAccess;
 
     /// Opens the store at `path`, or makes it, readable and writable by its owner only. A file
     /// that is no store, is damaged, comes from a newer version or holds a value that its attribute
@@ -31,7 +27,6 @@ class Store {
     /// to read, a file that is not there is refused, too, and write() is not allowed.
     Store(const QString& path, const EntityDescription& entity,
           Access access = Access::readAndWrite);
-    ~Store();
     Q_DISABLE_COPY_MOVE(Store)
 
     [[nodiscard]] const QString& path() const { return m_path; }
@@ -94,35 +89,20 @@ class Store {
     friend class BulkWrite;
 
     void readValues(SQLite::Statement& row, ObjectID id, std::vector<Value>& values);
-    void open();
-    void leaveFile();
-    void checkpointOnClose(bool checkpoints);
-    void refuseNewer() const;
-    void refuseDamaged() const;
-    [[nodiscard]] QString wrongRecord() const;
-    [[nodiscard]] bool isMade() const;
-    void createSchema();
     void prepareToWrite();
     [[nodiscard]] StatementCache::Use prepared(const QString& selection,
                                                const FetchRequest& request) const;
     [[nodiscard]] ObjectID largestID() const;
-    [[nodiscard]] std::int64_t integer(const QString& query) const;
     [[nodiscard]] QString shared(const QString& text);
 
     QString m_path;
     const EntityDescription& m_entity;
     EntityTable m_table;
     Access m_access;
-    std::unique_ptr<SQLite::Database> m_database;
-    std::unique_ptr<StatementCache> m_statements;
+    std::unique_ptr<StoreConnection> m_connection;
+    // After the connection, and so gone before it: a copy in the making reads from it.
     DailyCopy m_copy;
-    FileIdentity m_file;
-    // Of the memory beside the file that its log is read by; empty until there is one.
-    FileIdentity m_sharedMemory;
-    bool m_hasLeft = false;
-    bool m_wasWritten = false;
     ObjectID m_largestDeleted = 0;
-    int m_lastDataVersion = 0;
     // Equal texts of many records share one QString, which saves memory.
     QSet<QString> m_texts;
 };

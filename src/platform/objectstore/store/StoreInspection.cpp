@@ -2,23 +2,12 @@
 
 #include "Guarded.h"
 #include "StoredValue.h"
-#include "platform/objectstore/file/Soundness.h"
+#include "platform/objectstore/file/WriteAheadLog.h"
 
 #include <QFileInfo>
 #include <sqlite3.h>
 
 namespace kovamo {
-
-namespace {
-
-constexpr int busyTimeoutMilliseconds = 5000;
-
-void checkpointOnClose(SQLite::Database& database, bool checkpoints) {
-    sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, checkpoints ? 0 : 1,
-                      nullptr);
-}
-
-} // namespace
 
 StoreInspection::StoreInspection(const QString& path, const EntityDescription& entity)
     : m_path(path), m_entity(entity), m_table(entity) {
