@@ -58,6 +58,8 @@ class ManagedObject {
     friend class ManagedObjectContext;
 
     void require() const;
+    // What is pending here goes before what another process wrote.
+    void makeStale() { m_isStale = !m_isInserted && !m_isUpdated && !m_isDeleted; }
 
     ManagedObjectContext& m_context;
     ObjectID m_objectID;

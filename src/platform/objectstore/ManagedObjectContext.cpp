@@ -1,11 +1,11 @@
 #include "ManagedObjectContext.h"
 
+#include "RecordPlaces.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/MainQueue.h"
 #include "platform/objectstore/file/StoreError.h"
 #include "platform/objectstore/store/Store.h"
 
-#include <QHash>
 #include <QPointer>
 #include <span>
 #include <utility>
@@ -16,7 +16,7 @@ ManagedObjectContext::ManagedObjectContext(Store& store, const EntityDescription
     : m_store(store), m_entity(entity) {
     connect(&m_mergeTimer, &QTimer::timeout, this, [this] {
         try {
-            followFile();
+            reopenReplacedStore();
             mergeChanges();
         } catch (const StoreError&) {
             // A timer has no caller to throw to: the next fetch meets the same error and throws it.
@@ -36,7 +36,7 @@ void ManagedObjectContext::requireEntity(const FetchRequest& request) const {
 }
 
 std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request) {
-    followFile();
+    reopenReplacedStore();
     // What is pending is put among records that nobody may delete before they are read.
     const auto reading = m_unsaved.isEmpty() ? nullptr : m_store.readTransaction();
     return selectIDs(request);
@@ -57,7 +57,7 @@ std::vector<ObjectID> ManagedObjectContext::selectIDs(const FetchRequest& reques
 }
 
 std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchRequest& request) {
-    followFile();
+    reopenReplacedStore();
     mergeChanges();
     if (const auto* remembered = m_memory.find(request))
         return *remembered;
@@ -80,7 +80,7 @@ std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchReques
 
 std::size_t ManagedObjectContext::count(const FetchRequest& request) {
     requireEntity(request);
-    followFile();
+    reopenReplacedStore();
     mergeChanges();
     return m_unsaved.isEmpty() ? m_store.count(request) : fetchIDs(request).size();
 }
@@ -171,16 +171,12 @@ void ManagedObjectContext::deleteObject(ManagedObject& object) {
         announceLater(m_unannounced.deleted, object);
 }
 
-bool ManagedObjectContext::hasChanges() const {
-    return !m_unsaved.isEmpty();
-}
-
 void ManagedObjectContext::save() {
     if (m_unsaved.isEmpty())
         return announce();
     do {
         if (m_store.isReplaced())
-            goOnElsewhere();
+            reopenStore();
         mergeChanges();
         announce();
         while (!m_store.write(m_unsaved))
@@ -208,8 +204,7 @@ void ManagedObjectContext::renumberInserted() {
         node.key() = object->m_objectID = id++;
         m_objects.insert(std::move(node));
     }
-    m_unannounced.everything = true;
-    announceLater();
+    announceEverything();
 }
 
 void ManagedObjectContext::prepareToSave() {
@@ -255,54 +250,34 @@ void ManagedObjectContext::setAutomaticallyMergesChangesFromParent(bool merges) 
         m_mergeTimer.stop();
 }
 
-void ManagedObjectContext::followFile() {
+void ManagedObjectContext::reopenReplacedStore() {
     if (!m_mergesChanges || !m_store.isReplaced() || !m_store.isThere())
         return;
     try {
-        goOnElsewhere();
+        reopenStore();
     } catch (const StoreError&) {
-        // It may still be on its way: until it can be opened, what was there before shows.
+        // It may not be complete yet. Until it can be opened, the former file's records show.
     }
 }
 
-void ManagedObjectContext::goOnElsewhere() {
+void ManagedObjectContext::reopenStore() {
     m_store.reopen();
     m_memory.forget();
-    const std::size_t identity = m_entity.attributeIndex(m_entity.identity);
-    const auto identityIn = [&](std::span<const Value> values) {
-        const auto* id = std::get_if<QUuid>(&values[identity]);
-        return id ? *id : QUuid();
-    };
-    std::unordered_map<ObjectID, QUuid> rows;
-    QHash<QUuid, ObjectID> places;
-    m_store.forEach([&](ObjectID id, std::span<const Value> values) {
-        places.insert(rows[id] = identityIn(values), id);
-        return true;
-    });
-    places.remove(QUuid());
-    ObjectID unused = m_store.unusedID();
+    RecordPlaces places(m_store, m_entity);
     for (const auto& [id, object] : m_objects)
-        unused = std::max(unused, id + 1);
-    // An object stays with its record. One whose record is not there has an identity that no other
-    // record has, so that a save adds it.
-    const auto placeOf = [&](const ManagedObject& object) {
-        const auto row = rows.find(object.m_objectID);
-        const QUuid id = object.m_values.empty() ? QUuid() : identityIn(object.m_values);
-        if (row == rows.end() || (!id.isNull() && row->second == id) || object.m_values.empty())
-            return places.value(id, object.m_objectID);
-        return places.contains(id) ? places[id] : unused++;
-    };
+        places.avoid(id);
     std::vector<std::unique_ptr<ManagedObject>> objects;
     for (auto& [id, object] : m_objects)
         objects.push_back(std::move(object));
     m_objects.clear();
+    // Where two objects claim one record, the one with values gets it.
     std::stable_partition(objects.begin(), objects.end(),
                           [](const auto& object) { return !object->m_values.empty(); });
     for (std::unique_ptr<ManagedObject>& object : objects) {
-        object->m_isStale = !object->m_isInserted && !object->m_isUpdated && !object->m_isDeleted;
-        object->m_objectID = placeOf(*object);
+        object->makeStale();
+        object->m_objectID = places.placeOf(object->m_objectID, object->m_values);
         if (m_objects.contains(object->m_objectID) && !object->m_values.empty())
-            object->m_objectID = unused++;
+            object->m_objectID = places.unused();
         const auto [place, isFree] = m_objects.try_emplace(object->m_objectID, std::move(object));
         if (!isFree) // nobody has looked at its values yet
             m_deletedObjects.push_back(std::move(object));
@@ -315,9 +290,8 @@ void ManagedObjectContext::mergeChanges() {
         return;
     m_memory.forget();
     for (const auto& [id, object] : m_objects)
-        object->m_isStale = !object->m_isInserted && !object->m_isUpdated && !object->m_isDeleted;
-    m_unannounced.everything = true;
-    announceLater();
+        object->makeStale();
+    announceEverything();
 }
 
 } // namespace kovamo

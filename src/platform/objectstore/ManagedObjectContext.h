@@ -86,7 +86,7 @@ class ManagedObjectContext : public QObject {
     /// do before it writes. For the moment in which a screen opens that saves.
     void prepareToSave();
 
-    [[nodiscard]] bool hasChanges() const;
+    [[nodiscard]] bool hasChanges() const { return !m_unsaved.isEmpty(); }
 
     /// Whether what other writers save to the store shows here, and another file that takes its
     /// place: at the next fetch, and within a second or two without one.
@@ -106,11 +106,16 @@ class ManagedObjectContext : public QObject {
     void didUpdate(ManagedObject& object);
     void announceLater(std::vector<ManagedObject*>& changes, ManagedObject& object);
     void announceLater();
+    void announceEverything() {
+        m_unannounced.everything = true;
+        announceLater();
+    }
     void announce();
     void mergeChanges();
-    /// Goes on with the file that has taken the place of the store's, if one has.
-    void followFile();
-    void goOnElsewhere();
+    /// Opens the file that has taken the place of the store's, if one has.
+    void reopenReplacedStore();
+    /// Opens the file that lies at the store's path now; each object stays with its record.
+    void reopenStore();
     [[nodiscard]] std::vector<ObjectID> selectIDs(const FetchRequest& request);
     void renumberInserted();
     void mergePending(const FetchRequest& request, std::vector<ObjectID>& ids);
