@@ -1,17 +1,6 @@
 #include "Book.h"
 
-#include <SQLiteCpp/Database.h>
-
 namespace kovamo {
-
-namespace {
-
-ManagedObjectContext& loaded(PersistentContainer& container) {
-    container.loadPersistentStores([](const StoreError* error) { ASSERT_EQ(error, nullptr); });
-    return container.viewContext();
-}
-
-} // namespace
 
 FetchRequest transactions(const Predicate& predicate, std::vector<SortDescriptor> sortDescriptors) {
     FetchRequest request = Transaction::fetchRequest();
@@ -20,8 +9,7 @@ FetchRequest transactions(const Predicate& predicate, std::vector<SortDescriptor
     return request;
 }
 
-Book::Book(std::initializer_list<Line> lines)
-    : container(QStringLiteral("Kovamo"), Transaction::entity()), context(loaded(container)) {
+Book::Book(std::initializer_list<Line> lines) : RecordStore(QStringLiteral("Kovamo")) {
     for (const Line& line : lines)
         add(line);
     context.save();
@@ -39,21 +27,6 @@ Transaction& Book::add(const Line& line) {
     transaction.setStartDate(at(line.start));
     transaction.setEndDate(at(line.end));
     return transaction;
-}
-
-std::vector<Transaction*> Book::all(const FetchRequest& request) const {
-    return context.fetch<Transaction>(request);
-}
-
-std::vector<std::int32_t> Book::amounts(const FetchRequest& request) const {
-    std::vector<std::int32_t> amounts;
-    for (const Transaction* transaction : all(request))
-        amounts.push_back(transaction->amount());
-    return amounts;
-}
-
-void Book::elsewhere(const std::string& sql) const {
-    SQLite::Database(container.storePath().toStdString(), SQLite::OPEN_READWRITE).exec(sql);
 }
 
 } // namespace kovamo

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "World.h"
+#include "RecordStore.h"
 #include "model/Transaction.h"
-#include "platform/objectstore/PersistentContainer.h"
 
 namespace kovamo {
 
@@ -20,21 +19,17 @@ struct Line {
                                         std::vector<SortDescriptor> sortDescriptors = {});
 
 /// A real store of transactions in the scratch folder of the world.
-class Book {
+class Book : public RecordStore<Transaction> {
   public:
     Book(std::initializer_list<Line> lines = {});
 
-    PersistentContainer container;
-    ManagedObjectContext& context;
-
     /// Adds a one-off, or a recurring transaction where `recurringType` is given.
     Transaction& add(const Line& line);
-    /// The transactions that a request fetches, in order, and their amounts.
-    [[nodiscard]] std::vector<Transaction*> all(const FetchRequest& request = transactions()) const;
+    /// The amounts of the transactions that a request fetches, in order.
     [[nodiscard]] std::vector<std::int32_t>
-    amounts(const FetchRequest& request = transactions()) const;
-    /// Runs SQL on the store's file as another program would.
-    void elsewhere(const std::string& sql) const;
+    amounts(const FetchRequest& request = transactions()) const {
+        return each(&Transaction::amount, request);
+    }
 };
 
 } // namespace kovamo

@@ -1,5 +1,5 @@
 #include "platform/objectstore/LiveFetch.h"
-#include "support/Book.h"
+#include "Note.h"
 
 #include <QAbstractItemModelTester>
 #include <QCoreApplication>
@@ -12,35 +12,35 @@ class Rows : public LiveFetch {
   public:
     using LiveFetch::LiveFetch;
     [[nodiscard]] QVariant data(const QModelIndex&, int) const override { return {}; }
-    [[nodiscard]] std::vector<std::int32_t> amounts() const {
-        std::vector<std::int32_t> amounts;
+    [[nodiscard]] std::vector<std::int32_t> pages() const {
+        std::vector<std::int32_t> pages;
         for (int row = 0; row < rowCount(); ++row)
-            amounts.push_back(static_cast<const Transaction&>(object(row)).amount());
-        return amounts;
+            pages.push_back(static_cast<const Note&>(object(row)).pages());
+        return pages;
     }
 };
 
 TEST(LiveFetch, FollowsEveryChangeAsAFreshFetchWould) {
-    Book book;
-    const FetchRequest request = transactions(Predicate(QStringLiteral("isPositive == YES")),
-                                              {{QStringLiteral("amount"), false}});
-    book.add({7});
+    Notebook book;
+    const FetchRequest request =
+        notes(Predicate(QStringLiteral("isPinned == YES")), {{QStringLiteral("pages"), false}});
+    book.add({7, true});
     Rows rows(book.context, request);
     const QAbstractItemModelTester tester(&rows,
                                           QAbstractItemModelTester::FailureReportingMode::Fatal);
     std::mt19937 random(3);
     for (int step = 0; step < 400; ++step) {
-        const auto amount = static_cast<std::int32_t>(random() % 20);
+        const auto pages = static_cast<std::int32_t>(random() % 20);
         const auto all = book.all();
-        Transaction* any = all.empty() ? nullptr : all[random() % all.size()];
+        Note* any = all.empty() ? nullptr : all[random() % all.size()];
         if (!any || random() % 3 == 0)
-            book.add({amount});
+            book.add({pages, true});
         else if (random() % 3 == 0)
             book.context.deleteObject(*any);
         else if (random() % 3 == 0)
-            any->setIsPositive(random() % 2 == 0);
+            any->setIsPinned(random() % 2 == 0);
         else
-            any->setAmount(amount);
+            any->setPages(pages);
         if (const auto turn = random() % 3; turn == 1)
             QCoreApplication::processEvents();
         else if (turn == 2)
@@ -48,26 +48,26 @@ TEST(LiveFetch, FollowsEveryChangeAsAFreshFetchWould) {
     }
     book.context.save();
     EXPECT_GT(rows.rowCount(), 10);
-    EXPECT_EQ(rows.amounts(), book.amounts(request));
+    EXPECT_EQ(rows.pages(), book.pages(request));
 
     book.context.setAutomaticallyMergesChangesFromParent(true);
-    book.elsewhere("INSERT INTO \"Transaction\" (amount, isPositive) VALUES (1000, 1)");
+    book.elsewhere("INSERT INTO Note (pages, isPinned) VALUES (1000, 1)");
     (void)book.context.count(request);
     QCoreApplication::processEvents();
-    EXPECT_EQ(rows.amounts().front(), 1000) << "another writer's record is not shown";
+    EXPECT_EQ(rows.pages().front(), 1000) << "another writer's record is not shown";
 }
 
 TEST(LiveFetch, OutlivesADeletionElsewhereBetweenTheMergeAndTheWriteOfASave) {
-    (void)Book({{1}, {2}, {3}});
-    Book book;
+    (void)Notebook({{1}, {2}, {3}});
+    Notebook book;
     QObject::connect(&book.context, &ManagedObjectContext::objectsDidChange,
-                     [&] { book.elsewhere("DELETE FROM \"Transaction\" WHERE amount = 2"); });
-    const FetchRequest request = transactions({}, {{QStringLiteral("amount")}});
+                     [&] { book.elsewhere("DELETE FROM Note WHERE pages = 2"); });
+    const FetchRequest request = notes({}, {{QStringLiteral("pages")}});
     const Rows rows(book.context, request);
     book.add({4});
     book.context.save();
-    EXPECT_EQ(rows.amounts(), (std::vector<std::int32_t>{1, 3, 4}));
-    EXPECT_EQ(Book().amounts(), rows.amounts());
+    EXPECT_EQ(rows.pages(), (std::vector<std::int32_t>{1, 3, 4}));
+    EXPECT_EQ(Notebook().pages(), rows.pages());
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "support/Book.h"
+#include "Note.h"
 
 #include <random>
 
@@ -18,31 +18,31 @@ QString randomCondition(std::mt19937& random, std::vector<Value>& arguments, int
     const QString comparison = QLatin1String(operators[below(8)]);
     switch (below(4)) {
     case 0:
-        return u"isPositive " + comparison + (below(2) ? u" YES" : u" NO");
+        return u"isPinned " + comparison + (below(2) ? u" YES" : u" NO");
     case 1:
         arguments.emplace_back(Instant(std::chrono::milliseconds(below(5))));
-        return u"startDate" + comparison + u"%@";
+        return u"due" + comparison + u"%@";
     case 2:
         arguments.emplace_back(QString(QChar(static_cast<char16_t>(u'a' + below(4)))));
         return u"title " + comparison + u" %@";
     default:
         arguments.emplace_back(static_cast<std::int32_t>(below(5)));
-        return u"amount " + comparison + u" %@";
+        return u"pages " + comparison + u" %@";
     }
 }
 
 TEST(Predicate, MeansTheSameToTheStoreAndToPendingRecords) {
     std::mt19937 random(7);
-    Book book;
+    Notebook book;
     for (int i = 0; i < 60; ++i) {
-        Transaction& record = book.add({static_cast<std::int32_t>(random() % 5)});
+        Note& record = book.add({static_cast<std::int32_t>(random() % 5)});
         record.setTitle({});
         if (random() % 3)
             record.setTitle(QString(QChar(static_cast<char16_t>(u'a' + random() % 4))));
-        record.setStartDate({});
+        record.setDue({});
         if (random() % 3)
-            record.setStartDate(Instant(std::chrono::milliseconds(random() % 5)));
-        record.setIsPositive(random() % 2 == 0);
+            record.setDue(Instant(std::chrono::milliseconds(random() % 5)));
+        record.setIsPinned(random() % 2 == 0);
     }
     book.context.save();
     for (int i = 0; i < 500; ++i) {
@@ -50,26 +50,26 @@ TEST(Predicate, MeansTheSameToTheStoreAndToPendingRecords) {
         const QString format = randomCondition(random, arguments);
         const Predicate predicate(format, arguments);
         auto expected = book.all();
-        std::erase_if(expected, [&](const Transaction* record) {
-            return !predicate.matches(Transaction::entity(), record->values());
+        std::erase_if(expected, [&](const Note* record) {
+            return !predicate.matches(Note::entity(), record->values());
         });
-        EXPECT_EQ(book.all(transactions(predicate)), expected) << qPrintable(format);
+        EXPECT_EQ(book.all(notes(predicate)), expected) << qPrintable(format);
     }
 }
 
 TEST(PredicateDeathTest, NamesWhatItCannotMean) {
     const std::tuple<const char*, std::vector<Value>, const char*> cases[] = {
-        {"amount >", {}, "Malformed predicate: .amount >"},
-        {"amount == %@", {}, "Malformed predicate"},
-        {"isPositive == YES", {std::int32_t{1}}, "Malformed predicate"},
-        {"(isPositive == YES", {}, "Malformed predicate"},
-        {"isPositive == YES isPositive == NO", {}, "Malformed predicate"},
+        {"pages >", {}, "Malformed predicate: .pages >"},
+        {"pages == %@", {}, "Malformed predicate"},
+        {"isPinned == YES", {std::int32_t{1}}, "Malformed predicate"},
+        {"(isPinned == YES", {}, "Malformed predicate"},
+        {"isPinned == YES isPinned == NO", {}, "Malformed predicate"},
         {"colour == YES", {}, "has no attribute .colour"},
-        {"amount == YES", {}, "compares .amount. with a value of another type"},
+        {"pages == YES", {}, "compares .pages. with a value of another type"},
     };
-    Book book;
+    Notebook book;
     for (const auto& [format, arguments, message] : cases)
-        EXPECT_DEATH((void)book.all(transactions(Predicate(QString::fromUtf8(format), arguments))),
+        EXPECT_DEATH((void)book.all(notes(Predicate(QString::fromUtf8(format), arguments))),
                      message)
             << format;
     EXPECT_DEATH((void)book.context.fetchIDs({.entityName = QStringLiteral("Wallet")}), "Wallet");

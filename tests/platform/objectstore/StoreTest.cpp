@@ -1,4 +1,4 @@
-#include "support/Book.h"
+#include "Note.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -9,7 +9,7 @@ namespace {
 
 /// The description that loading fails with; empty when it does not.
 QString failure() {
-    PersistentContainer container(QStringLiteral("Kovamo"), Transaction::entity());
+    PersistentContainer container(QStringLiteral("Notes"), Note::entity());
     QString description;
     container.loadPersistentStores([&](const StoreError* error) {
         if (error)
@@ -23,44 +23,43 @@ TEST(Store, KeepsEveryValueOverARestart) {
         QStringLiteral("مرحبا <b>x</b>\n") + QChar(u'\0') + QChar(0x0301) + QString(1 << 20, u'x');
     const QUuid id = QUuid::createUuid();
     {
-        Book book;
-        Transaction& record = book.add({std::numeric_limits<std::int32_t>::min()});
+        Notebook book;
+        Note& record = book.add({std::numeric_limits<std::int32_t>::min(), true});
         record.setTitle(text);
-        record.setStartDate(at("1901-02-03 04:05:06.007"));
+        record.setDue(at("1901-02-03 04:05:06.007"));
         record.setId(id);
         book.add({std::numeric_limits<std::int32_t>::max()}).setTitle({});
         book.context.save();
         const QFileInfo file(book.container.storePath());
         EXPECT_EQ((file.permissions() | QFileInfo(file.path()).permissions()) & 0x0077, 0);
     }
-    const Book book;
+    const Notebook book;
     const auto all = book.all();
     ASSERT_EQ(all.size(), 2U);
-    EXPECT_EQ(all[0]->amount(), std::numeric_limits<std::int32_t>::min());
+    EXPECT_EQ(all[0]->pages(), std::numeric_limits<std::int32_t>::min());
     EXPECT_EQ(all[0]->title(), text);
-    EXPECT_EQ(all[0]->startDate(), at("1901-02-03 04:05:06.007"));
+    EXPECT_EQ(all[0]->due(), at("1901-02-03 04:05:06.007"));
     EXPECT_EQ(all[0]->id(), id);
-    EXPECT_TRUE(all[0]->isPositive());
+    EXPECT_TRUE(all[0]->isPinned());
     EXPECT_EQ(all[1]->title(), std::nullopt);
 }
 
 TEST(Store, ShowsTheRowsOfAnotherProgram) {
-    const Book book;
-    book.elsewhere("INSERT INTO \"Transaction\" (amount, startDate, id) VALUES "
+    const Notebook book;
+    book.elsewhere("INSERT INTO Note (pages, due, id) VALUES "
                    "(42, 1715767200000, '0b5a2a4e-7a3a-4c1e-9f52-0d8f6f0c9a11')");
-    const Transaction& record = *book.all().at(0);
-    EXPECT_EQ(record.amount(), 42);
-    EXPECT_EQ(record.startDate(), at("2024-05-15 12:00"));
+    const Note& record = *book.all().at(0);
+    EXPECT_EQ(record.pages(), 42);
+    EXPECT_EQ(record.due(), at("2024-05-15 12:00"));
     EXPECT_EQ(record.id(), QUuid("0b5a2a4e-7a3a-4c1e-9f52-0d8f6f0c9a11"));
 }
 
 TEST(Store, RefusesWhatIsNotItsOwnAndLeavesItAlone) {
-    const QString path = Book().container.storePath();
+    const QString path = Notebook().container.storePath();
     const std::pair<const char*, const char*> cases[] = {
         {"PRAGMA user_version = 42", "newer version"},
         {"PRAGMA user_version = 0", "no store of the app"},
-        {"PRAGMA user_version = 1; ALTER TABLE \"Transaction\" RENAME title TO x",
-         "no such column"},
+        {"PRAGMA user_version = 1; ALTER TABLE Note RENAME title TO x", "no such column"},
     };
     for (const auto& [sql, description] : cases) {
         SQLite::Database(path.toStdString(), SQLite::OPEN_READWRITE).exec(sql);
@@ -83,18 +82,18 @@ TEST(Store, RefusesWhatIsNotItsOwnAndLeavesItAlone) {
 
 TEST(Store, RefusesAWrongValueInTheTableOfAnotherProgram) {
     const std::pair<const char*, const char*> cases[] = {
-        {"amount = 'many'", "amount"},       {"amount = 3000000000", "amount"},
-        {"isPositive = NULL", "isPositive"}, {"startDate = 1.5", "startDate"},
-        {"title = x'00'", "title"},          {"id = 'none'", "id"},
+        {"pages = 'many'", "pages"},     {"pages = 3000000000", "pages"},
+        {"isPinned = NULL", "isPinned"}, {"due = 1.5", "due"},
+        {"title = x'00'", "title"},      {"id = 'none'", "id"},
     };
     for (const auto& [fault, attribute] : cases) {
         const World world;
-        const Book book({{1}});
+        const Notebook book({{1}});
         const QString id = QString::number(book.all()[0]->objectID());
-        book.elsewhere("CREATE TABLE copy AS SELECT * FROM \"Transaction\";"
-                       "DROP TABLE \"Transaction\"; ALTER TABLE copy RENAME TO \"Transaction\"");
+        book.elsewhere("CREATE TABLE copy AS SELECT * FROM Note;"
+                       "DROP TABLE Note; ALTER TABLE copy RENAME TO Note");
         EXPECT_EQ(failure(), QString()) << "without a fault it is as good as the app's";
-        book.elsewhere(std::string("UPDATE \"Transaction\" SET ") + fault);
+        book.elsewhere(std::string("UPDATE Note SET ") + fault);
         EXPECT_EQ(failure(), u"The record " + id + u" has a wrong " + QLatin1String(attribute));
     }
 }
