@@ -35,7 +35,8 @@ QStringList argumentsOf(int argc, char** argv) {
     return arguments;
 }
 
-/// Answers a command line that asks for words alone, or is not understood; nothing for any other.
+/// Prints the help, the version or what is wrong with the command line, and returns the exit
+/// status; nothing where the app is to start.
 std::optional<int> answered(const Options& options) {
     if (!options.error.isEmpty()) {
         std::fprintf(stderr, "%s\nTry: kovamo --help\n", qPrintable(options.error));
@@ -47,7 +48,7 @@ std::optional<int> answered(const Options& options) {
     return 0;
 }
 
-/// Points the store and the preferences at a folder that goes with the process.
+/// Points the store and the preferences at a folder that is deleted when the app ends.
 void moveInto(const QTemporaryDir& scratch) {
     qputenv("XDG_DATA_HOME", scratch.filePath(QStringLiteral("data")).toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", scratch.filePath(QStringLiteral("config")).toLocal8Bit());
@@ -123,7 +124,7 @@ int show(const Options& options) {
 } // namespace
 
 int main(int argc, char** argv) {
-    // Nobody may read what is printed: a write then fails instead of ending the process.
+    // Otherwise SIGPIPE ends the app where nobody reads what it prints.
     std::signal(SIGPIPE, SIG_IGN);
     forbidCoreDumps();
     KovamoApp::describe();

@@ -9,7 +9,7 @@ namespace kovamo {
 
 class Call;
 
-/// What a command is called for: a file, say.
+/// What a command takes beside its options, such as a file.
 struct Operand {
     QString name;
     QString description;

@@ -57,9 +57,9 @@ std::optional<int> runCommand(const QStringList& arguments) {
     const auto command = std::ranges::find(commands(), arguments.value(0), &Command::name);
     if (command == commands().end())
         return std::nullopt;
-    // Whoever reads the output may go: then writing fails, and the command ends as it is meant to.
+    // Otherwise SIGPIPE ends the command where the reader of its output has ended, as `head` does.
     std::signal(SIGPIPE, SIG_IGN);
-    // Whoever calls a command wants an exit status, not a crash.
+    // A script that calls a command wants an exit status, not a crash.
     setFatalErrorWitness([](const QString&) { std::_Exit(static_cast<int>(ExitStatus::notDone)); });
     return static_cast<int>(run(*command, arguments.mid(1)));
 }

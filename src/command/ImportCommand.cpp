@@ -78,7 +78,7 @@ ImportOptions optionsOf(const Call& call, Input& input) {
     return options;
 }
 
-/// Says on standard error which lines there is something to say of.
+/// Prints the lines that were noted, and how many more there are, to standard error.
 void report(const Input& input, const std::vector<LineFault>& faults, qint64 count) {
     for (const LineFault& fault : faults)
         std::fprintf(stderr, "%s:%lld: %s\n", qUtf8Printable(input.name()),

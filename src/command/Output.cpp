@@ -14,7 +14,7 @@ namespace {
 const QString standardOutput = QStringLiteral("Standard output");
 
 [[noreturn]] void failToWrite(const QString& name, const QString& why) {
-    // Whoever read it has seen enough.
+    // The reader has closed the pipe, as `head` does: no error.
     if (why == qt_error_string(EPIPE))
         throw CommandFailure{};
     throw CommandFailure{name + u" cannot be written: " + why};
@@ -61,7 +61,7 @@ void OutputFile::commit() {
 
 void OutputFile::fail() const {
     const int code = errno;
-    // A file that appears whole does not say why it could not be written.
+    // QSaveFile's own error text does not tell why a write failed.
     const bool saysNothing = m_whole && m_device->error() == QFileDevice::WriteError;
     failToWrite(m_name, saysNothing ? qt_error_string(code) : m_device->errorString());
 }

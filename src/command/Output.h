@@ -10,7 +10,7 @@ namespace kovamo {
 /// where whoever read it has gone.
 void print(const QString& text);
 
-/// Writes what is still held back; throws as print() does.
+/// Writes what is still buffered; throws as print() does.
 void finishOutput();
 
 /// What a user names by a file, or by "-" or nothing for standard output.

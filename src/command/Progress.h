@@ -4,8 +4,8 @@
 
 namespace kovamo {
 
-/// How far a command has come, as a line on standard error that goes with the value: where that is
-/// a terminal, and once the work has taken a second.
+/// How far a command has come, as a line on standard error that is erased with the value. It shows
+/// on a terminal only, and once the work has taken a second.
 class Progress {
   public:
     /// `verb` is what is being done: "Importing". `total` is in the units of show().

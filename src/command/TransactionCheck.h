@@ -14,8 +14,8 @@ class TransactionCheck {
   public:
     TransactionCheck();
 
-    /// What is wrong with a record, a few words for each fault. Takes each record of a store once,
-    /// for two with one identity are one too many.
+    /// What is wrong with a record, a few words for each fault. To be called once for each record
+    /// of a store: it remembers their ids, to find one that two records have.
     [[nodiscard]] QStringList faultsOf(StoreInspection::Record record);
 
   private:

@@ -19,16 +19,16 @@ class DeletedTransactions : public QObject {
     /// Requires: `context` outlives this.
     explicit DeletedTransactions(ManagedObjectContext& context) : m_context(context) {}
 
-    /// What the user is told of the last deletion: for eight seconds, until the next one or until
-    /// it is taken back; empty else.
+    /// The sentence about the last deletion, for eight seconds, until the next one or until it is
+    /// taken back; empty otherwise.
     [[nodiscard]] QString sentence() const { return m_sentence; }
 
     /// A record is about to be deleted.
     void willDelete(const Transaction& record);
 
-    /// Inserts the record that was deleted last, as it was, and saves it at once; one that has come
-    /// back otherwise stays as it is. Returns the record; null where nothing is left to take back,
-    /// or where it cannot be saved: then it can be tried again.
+    /// Inserts the record that was deleted last, as it was, and saves it at once; one that is
+    /// stored again by other means stays as it is. Returns the record; null where nothing is left
+    /// to take back, or where it cannot be saved: then it can be tried again.
     Transaction* takeBack();
 
   Q_SIGNALS:
@@ -42,7 +42,7 @@ class DeletedTransactions : public QObject {
     /// The values of each, the last deleted one last.
     std::vector<std::vector<Value>> m_deleted;
     QString m_sentence;
-    // Which of the sentences the main queue is to take away.
+    // So that a queued call clears its own sentence only, and not a later one.
     int m_sentenceNumber = 0;
 };
 

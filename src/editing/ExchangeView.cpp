@@ -22,7 +22,7 @@ QString counted(const QString& what, qint64 count) {
     return what + u": " + numberText(count);
 }
 
-/// How many records a store holds; nothing for a file that is none.
+/// How many records a store holds; nothing for a file that is no store.
 std::optional<qint64> countOf(const QString& storePath) {
     try {
         Store store(storePath, Transaction::entity(), Store::Access::read);

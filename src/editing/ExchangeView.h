@@ -10,22 +10,21 @@
 
 namespace kovamo {
 
-/// How records go out to a file, come in from one, and come back from a copy. What takes time is
-/// done beside the screens, on the store's file, where the screens see it as another process's
-/// work.
+/// The sheet that exports, imports and goes back to a copy. What takes time runs in a thread of its
+/// own on a connection of its own, so that the screens see it as another process's save.
 class ExchangeView : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(ExchangeState)
     QML_UNCREATABLE("Made by the screen of all transactions")
-    /// Whether there is something to show.
+    /// Whether the sheet is open.
     Q_PROPERTY(bool isPresented READ isPresented NOTIFY changed)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
     Q_PROPERTY(QString title READ title NOTIFY changed)
-    /// What is to be known.
+    /// The text, one paragraph each.
     Q_PROPERTY(QStringList lines READ lines NOTIFY changed)
-    /// What can be chosen from; empty where nothing is.
+    /// The rows to choose from, if any.
     Q_PROPERTY(QStringList choices READ choices NOTIFY changed)
-    /// What the button says that goes on; empty where there is none.
+    /// The label of the button that goes on; empty where there is none.
     Q_PROPERTY(QString action READ action NOTIFY changed)
 
   public:
@@ -41,13 +40,13 @@ class ExchangeView : public QObject {
     [[nodiscard]] QStringList choices() const { return m_page.choices; }
     [[nodiscard]] QString action() const { return m_page.action; }
 
-    /// What a file is to be called to which the records go out today.
+    /// The name to suggest for a file that is exported today.
     Q_INVOKABLE [[nodiscard]] static QString suggestedName();
 
     /// Writes all records to the file at `path`: as CSV, unless its name ends like one of JSON's.
     Q_INVOKABLE void exportTo(const QString& path);
 
-    /// Shows what the file at `path` would bring.
+    /// Shows what importing the file at `path` would change.
     Q_INVOKABLE void importFrom(const QString& path);
 
     /// Shows the copies that are kept, to choose one.
@@ -55,10 +54,10 @@ class ExchangeView : public QObject {
 
     Q_INVOKABLE void choose(int index);
 
-    /// Does what action() says.
+    /// What the button does.
     Q_INVOKABLE void proceed();
 
-    /// Shows nothing any more, and stops what is under way.
+    /// Closes the sheet, and stops what is under way.
     Q_INVOKABLE void dismiss();
 
   Q_SIGNALS:

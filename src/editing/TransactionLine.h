@@ -13,8 +13,8 @@ namespace kovamo {
 /// An amount with its direction: "+ " or "- " and the money text.
 [[nodiscard]] QString signedAmount(bool isPositive, std::int32_t amount);
 
-/// What is said once a transaction is deleted: "Rent deleted", and of a recurring one since when it
-/// was: "Salary, monthly since 2019, deleted".
+/// The sentence after a deletion: "Rent deleted", for a recurring transaction with its start:
+/// "Salary, monthly since 2019, deleted".
 [[nodiscard]] QString deletionSentence(const TransactionPresentation& deleted);
 
 class Transaction;

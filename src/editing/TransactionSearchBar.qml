@@ -55,7 +55,7 @@ FocusScope {
         Accessible.name: text
         Accessible.role: Accessible.Notification
         anchors.fill: summary
-        // A summary that comes back after a blank is said again.
+        // Announcement ignores an empty text. A blank makes it announce a summary that returns.
         text: bar.search.summary === "" ? " " : bar.search.summary
     }
 }

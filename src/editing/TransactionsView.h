@@ -41,12 +41,13 @@ class TransactionsView : public LiveFetch {
     /// Makes the form for the transaction at `row` of search(); returns whether there is one.
     Q_INVOKABLE bool edit(int row);
 
-    /// Deletes the transactions at `rows` of search(), ascending, each saved at once and each row
-    /// counted in the list as the deletion before has left it. A failed save is passed over.
+    /// Deletes the transactions at `rows` of search() one after another, each saved at once. Rows
+    /// are ascending; each is a row of the list as it is after the deletions before it. A failed
+    /// save is ignored.
     Q_INVOKABLE void remove(const QList<int>& rows);
 
-    /// Takes the last deletion back, saved at once. Returns the row of search() in which the
-    /// transaction stands again; -1 for none.
+    /// Takes the last deletion back, saved at once. Returns the row of search() that shows
+    /// the transaction again; -1 for none.
     Q_INVOKABLE int takeBack();
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;

@@ -25,8 +25,8 @@ QString nameOf(std::span<const Value> values) {
     return std::get<QUuid>(values[Transaction::Id]).toString(QUuid::WithoutBraces);
 }
 
-/// What a pipe brings, in a file that goes with the value; nothing for a device that can be read
-/// again. The store is not locked while a pipe makes one wait.
+/// A temporary file with what a pipe delivers; null for a device that can be read again. Without
+/// it, a slow pipe would keep the store locked.
 std::unique_ptr<QFile> spool(QIODevice& device) {
     if (!device.isSequential())
         return nullptr;
@@ -103,7 +103,7 @@ ImportReport run(Store& store, QIODevice& device, const ImportOptions& options, 
         }
         constexpr qint64 hopeless = 1000;
         if (report.faultCount == hopeless && report.added + report.same == 0) {
-            report.isRefused = true; // no file of records, and perhaps an endless one
+            report.isRefused = true; // no file of records, and it may never end
             return report;
         }
         if (options.progress && reader->position() >= told + step) {

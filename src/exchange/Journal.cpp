@@ -62,7 +62,7 @@ bool JournalWriter::write(const TransactionPresentation& transaction) {
     if (isDated) {
         std::string day;
         appendIso8601(day, *date, m_zone);
-        // Behind a number in brackets, a payee may begin with a bracket or a star.
+        // Without a code in brackets, ledger misreads a payee that begins with a bracket or a star.
         m_text += day.substr(0, 10) + " * (" + std::to_string(++m_count) + ") " +
                   payee(transaction.title) + '\n';
         if (const std::string emoji = payee(transaction.emoji); !emoji.empty())

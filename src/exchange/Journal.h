@@ -22,7 +22,7 @@ class JournalWriter {
     /// device's errorString() tells why not.
     bool write(const TransactionPresentation& transaction);
 
-    /// Writes what is still held back; to be called at the end.
+    /// Writes what is still buffered; to be called at the end.
     [[nodiscard]] bool flush();
 
     /// How many entries were written.

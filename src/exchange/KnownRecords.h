@@ -10,8 +10,8 @@
 
 namespace kovamo {
 
-/// The records that a store has while an import goes on, by what they are known by. They are held
-/// in a file without a name that goes with the value, and not in memory.
+/// The records of a store during an import, by their ids or, without one, by their contents. They
+/// lie in a temporary database that SQLite deletes with the value, so that memory stays small.
 class KnownRecords {
   public:
     /// How a record compares with the known one.

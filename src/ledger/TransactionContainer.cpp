@@ -10,7 +10,7 @@ namespace kovamo {
 
 namespace {
 
-/// The matching records; none when the fetch fails, which nobody is told by design.
+/// The matching records; none when the fetch fails, which is not reported on purpose.
 std::vector<Transaction*> fetched(ManagedObjectContext& context, Predicate predicate) {
     FetchRequest request = Transaction::fetchRequest();
     request.predicate = std::move(predicate);

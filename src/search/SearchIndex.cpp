@@ -24,7 +24,7 @@ bool beginsWith(std::int32_t amount, std::string_view digits) {
 
 } // namespace
 
-/// A word, with what it says of every entry worked out.
+/// A word with what is the same for all entries, found once.
 struct SearchIndex::Search {
     const SearchWord& word;
     std::vector<bool> hasEmoji;

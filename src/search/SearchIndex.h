@@ -28,7 +28,7 @@ class SearchIndex {
     /// Adds a transaction, given by its values, that is not in the index.
     void add(ObjectID id, std::span<const Value> values);
 
-    /// Brings what was added into order: before find(), put() and remove().
+    /// Sorts what was added. Required before find(), put() and remove().
     void sort();
 
     /// Adds a transaction in its place, or changes it.

@@ -62,7 +62,7 @@ class Visit {
     }
     void drag(QPoint from, QPoint by) { kovamo::drag(*m_window, from, by); }
     void resize(QSize size) { m_window->resize(size); }
-    /// Whether a text comes to stand above or below the middle of the window's bar.
+    /// Whether a text appears above or below the middle of the window's bar.
     [[nodiscard]] bool isInSight(const QString& text, bool expected) const {
         return soon([&] { return (middle(shown(*m_window, text)).y() > 22) == expected; });
     }

@@ -6,7 +6,7 @@
 namespace kovamo {
 namespace {
 
-/// A command of the program itself, run to its end. No window system answers it.
+/// Runs a command of the app as a process, without a window system.
 struct Ended : QProcess {
     explicit Ended(const QString& words, const QByteArray& input = {}) {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();

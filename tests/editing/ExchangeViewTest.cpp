@@ -6,7 +6,7 @@
 namespace kovamo {
 namespace {
 
-/// What the screen says once it has nothing under way: its title, its lines and what can be chosen.
+/// The sheet's title, lines and choices once nothing is under way.
 std::string said(const ExchangeView& view) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isBusy(); }, 30000));
     return (QStringList(view.title()) + view.lines() + view.choices()).join(u'\n').toStdString();

@@ -16,7 +16,7 @@ struct Stopped {};
 /// Stops the fuzzer with a finding unless `holds`.
 void check(bool holds, const char* what);
 
-/// A path in a scratch folder that goes with the process.
+/// A path in a scratch folder that is deleted when the process ends.
 QString scratchPath(const QString& name);
 
 void writeFile(const QString& path, std::span<const std::uint8_t> bytes);

@@ -51,7 +51,7 @@ class Phone : public testing::Test {
         const QString socket = sockets + u"/wayland-0";
         ASSERT_TRUE(soon([&] { return QFile::exists(socket); })) << "phoc does not start";
         run("wlr-randr", {"--output", "HEADLESS-1", "--custom-mode", "360x720"});
-        // The keyboard wants a seat, which there is once something points.
+        // The keyboard needs a seat, and the compositor makes one for the first pointer.
         finger = std::make_unique<Finger>(qPrintable(socket));
         ASSERT_TRUE(finger->isThere());
         start(keyboard, "squeekboard", {});
@@ -98,7 +98,7 @@ class Phone : public testing::Test {
         return reply.isValid() ? reply.value().toString() : QString();
     }
 
-    /// Whether the main screen comes to fill a screen of a size, from corner to corner.
+    /// Whether the main screen fills a screen of a size within the time, from corner to corner.
     bool fills(QSize size) {
         return soon([&] {
             const QImage image = screen();
@@ -117,7 +117,7 @@ class Phone : public testing::Test {
                     return true;
         return false;
     }
-    /// Where the caret comes to be seen in the form: a run of its colour down a column.
+    /// Where the form's caret appears: a run of its colour down a column of pixels.
     QPoint caret() {
         QPoint found;
         EXPECT_TRUE(soon([&] {
@@ -134,7 +134,7 @@ class Phone : public testing::Test {
         })) << "the caret is not seen";
         return found;
     }
-    /// Whether the card of the form's last row comes to stand whole above the keyboard.
+    /// Whether the whole card of the form's last row appears above the keyboard.
     bool showsLastRow(int x) {
         return soon([&] {
             const QImage image = screen();

@@ -18,11 +18,11 @@ class CsvReader {
 
     [[nodiscard]] char separator() const { return m_separator; }
 
-    /// Reads the next record that is no empty line; returns whether there is one. Throws a Fault,
-    /// and goes on with the next line at the next call.
+    /// Reads the next record, without empty lines; returns whether there is one. Throws a Fault for
+    /// a malformed one; the next call continues with the line after it.
     [[nodiscard]] bool next();
 
-    /// The fields of the record. Nothing between two separators is an absent one.
+    /// The fields of the record. A field without a character is absent, a quoted empty one is not.
     [[nodiscard]] std::span<const Cell> fields() const { return {m_fields.data(), m_count}; }
 
     /// The number of the line on which the record begins, from 1.

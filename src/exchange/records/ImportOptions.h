@@ -11,17 +11,16 @@ namespace kovamo {
 struct ImportOptions {
     /// CSV or JSON.
     ExchangeFormat format = ExchangeFormat::csv;
-    /// Passes over lines that cannot be read instead of refusing the file for them.
+    /// Skips lines that cannot be read instead of refusing the file for them.
     bool skipBad = false;
-    /// The header's words of a statement, by what they are: "date", "title", "amount", "debit",
-    /// "credit". They go before those that are known.
+    /// What a statement's header calls its columns, by "date", "title", "amount", "debit" and
+    /// "credit". These names take precedence over the known ones.
     QMap<QString, QString> columns{};
-    /// How a statement writes its dates: "dd.MM.yyyy", made of d, M and y; empty where their shape
-    /// tells.
+    /// How a statement writes its dates, as QDate reads a format: "dd.MM.yyyy". Empty to find out.
     QString dateFormat{};
-    /// What stands beside the records of a statement.
+    /// The emoji of the records of a statement.
     QString emoji = QStringLiteral("🏦");
-    /// Is told, now and then, how many bytes have been read; false stops the import.
+    /// Called now and then with the number of bytes read; false stops the import.
     std::function<bool(qint64 bytes)> progress{};
 };
 

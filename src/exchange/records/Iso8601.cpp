@@ -119,7 +119,7 @@ std::optional<std::int64_t> scanTime(Scanner& scanner) {
     return ((hour * 60 + minute) * 60 + second) * 1000 + fraction;
 }
 
-/// The distance from UTC in milliseconds.
+/// The offset from UTC in milliseconds.
 std::optional<std::int64_t> scanOffset(Scanner& scanner) {
     if (scanner.take('Z'))
         return 0;
@@ -148,7 +148,7 @@ std::optional<Instant> instantOf(std::int64_t day, std::int64_t time) {
 } // namespace
 
 void appendIso8601(std::string& text, Instant instant, ZoneOffset& zone) {
-    // At the ends of 64 bits a local time can be beyond them.
+    // Near the ends of 64 bits, adding the offset would overflow.
     const bool isAtAnEnd = instant < Instant::min() + days(1) || instant > Instant::max() - days(1);
     const minutes offset = isAtAnEnd ? minutes(0) : zone.at(instant);
     const std::int64_t local = (instant + offset).time_since_epoch().count();

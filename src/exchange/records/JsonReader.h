@@ -6,7 +6,7 @@
 namespace kovamo {
 
 /// Records as JSON, one object a line: the columns' names and texts, the amount a number, null for
-/// an absent text. Other names are passed over.
+/// an absent text. Other names are ignored.
 class JsonReader : public RecordReader {
   public:
     explicit JsonReader(QIODevice& device) : m_lines(device) {}

@@ -6,8 +6,8 @@
 
 namespace kovamo {
 
-/// A device's lines, one after the other, in memory of the longest one's size. CR, LF and both
-/// together end a line. A mark of the byte order at the start of UTF-8 is passed over.
+/// A device's lines, one after the other; it holds little more than one in memory. CR, LF and both
+/// together end a line. A byte order mark of UTF-8 at the start is skipped.
 class LineReader {
   public:
     /// The longest line, in bytes: more is no file of records, and no header.
@@ -22,8 +22,8 @@ class LineReader {
     [[nodiscard]] qsizetype longest() const { return m_longest; }
     void setLongest(qsizetype longest) { m_longest = longest; }
 
-    /// The next line with its end, until the next call; nothing at the end of the device. Throws a
-    /// Fault for a line that is too long, and goes on behind its start at the next call.
+    /// The next line with its end, valid until the next call; empty at the end of the device.
+    /// Throws a Fault for a line that is too long; the next call continues after what was read.
     [[nodiscard]] std::string_view next();
 
     /// The number of the line that next() returned, from 1.

@@ -19,8 +19,8 @@ class RecordReader {
   public:
     virtual ~RecordReader() = default;
 
-    /// Reads the next record; returns whether there is one. Throws a Fault for a record that is
-    /// none, and goes on behind it at the next call.
+    /// Reads the next record; returns whether there is one. Throws a Fault for one that cannot be
+    /// read; the next call continues after it.
     [[nodiscard]] virtual bool next(std::vector<Value>& values) = 0;
 
     /// The number of the line on which the record begins, from 1.

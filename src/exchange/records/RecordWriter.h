@@ -18,7 +18,7 @@ class RecordWriter {
     /// device's errorString() tells why not.
     bool write(std::span<const Value> values);
 
-    /// Writes what is still held back; to be called at the end.
+    /// Writes what is still buffered; to be called at the end.
     [[nodiscard]] bool flush();
 
     /// How many records were handed in.

@@ -30,7 +30,7 @@ void write(Cell& cell, const Value& value, ZoneOffset& zone) {
         cell.text = std::to_string(*number);
 }
 
-/// "The amount “x” is no whole number": the cell's text, cut where it is endless.
+/// "The amount “x” is no whole number": the cell's text, cut where it is long.
 [[noreturn]] void refuse(Column column, const Cell& cell, const char* demand) {
     constexpr qsizetype most = 60;
     QString text = QString::fromStdString(cell.text);

@@ -30,7 +30,7 @@ struct Cell {
     }
 };
 
-/// What the records' files hold of a record, in the order of the columns. `recurs` is absent for a
+/// The columns of a record in the app's own files, in their order. `recurs` is absent for a
 /// one-off; where it is "other", `recurringType` has the type that is neither "monthly" nor
 /// "yearly". The type and the end that a one-off was stored with are in `recurringType` and
 /// `endDate`.

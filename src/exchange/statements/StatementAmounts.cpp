@@ -10,8 +10,8 @@ struct Signed {
     QString digits;
 };
 
-/// Takes off the sign, before or behind, the brackets that are one, the currency and what stands
-/// between thousands but is neither point nor comma.
+/// Removes the sign, before or after the digits or as brackets, the currency, and separators of
+/// thousands that are neither point nor comma.
 Signed stripped(const QString& text) {
     Signed amount;
     for (const QChar character : text) {
@@ -19,7 +19,7 @@ Signed stripped(const QString& text) {
             amount.digits += QChar(u'0' + character.digitValue());
         else if (character == u'.' || character == u',')
             amount.digits += character;
-        else if (character == u'\u066b') // of Arabic digits
+        else if (character == u'\u066b') // the decimal separator of Arabic digits
             amount.digits += u',';
         else if (character == u'-' || character == u'\u2212' || character == u'(')
             amount.isNegative = true;
@@ -34,7 +34,7 @@ Signed stripped(const QString& text) {
     return amount;
 }
 
-/// What stands before the fraction, if only one reading is possible.
+/// The character before the fraction, if only one reading is possible.
 QChar decimalMark(const QString& digits) {
     const qsizetype point = digits.lastIndexOf(u'.');
     const qsizetype comma = digits.lastIndexOf(u',');
@@ -45,7 +45,7 @@ QChar decimalMark(const QString& digits) {
     if (std::min(point, comma) >= 0)
         return digits.count(last) == 1 ? last : QChar();
     if (digits.count(last) > 1)
-        return last == u'.' ? u',' : u'.'; // it stands between thousands
+        return last == u'.' ? u',' : u'.'; // it separates thousands
     return digits.size() - at - 1 == 3 && at > 0 && at <= 3 ? QChar() : last;
 }
 
@@ -60,7 +60,7 @@ void StatementAmounts::learn(const QString& text) {
 std::optional<StatementAmount> StatementAmounts::amount(const QString& text) const {
     Signed amount = stripped(text);
     const QChar own = decimalMark(amount.digits);
-    // Where no amount of the file tells, three digits behind a mark are thousands.
+    // Where no amount of the file is clear, a mark before three digits separates thousands.
     const bool isUnclear = own.isNull() && m_points == m_commas;
     const QChar decimal = !own.isNull()         ? own
                           : isUnclear           ? QChar()

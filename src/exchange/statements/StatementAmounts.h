@@ -17,17 +17,17 @@ struct StatementAmount {
     QString exact;
 };
 
-/// How a statement writes its amounts, found out over the whole of it.
+/// How a statement writes its amounts, learned from all of them.
 class StatementAmounts {
   public:
-    /// Takes note of an amount as it stands there.
+    /// Learns from an amount as the file has it.
     void learn(const QString& text);
 
     /// The amount that a text says; nothing where it says none, or one of more than 15 digits.
     [[nodiscard]] std::optional<StatementAmount> amount(const QString& text) const;
 
   private:
-    // How many amounts can only have their fraction behind a point, and how many behind a comma.
+    // How many amounts have a decimal point for certain, and how many a decimal comma.
     std::int64_t m_points = 0;
     std::int64_t m_commas = 0;
 };

@@ -8,10 +8,10 @@
 
 namespace kovamo {
 
-/// Where a statement's header has what: the numbers of the fields, from 0.
+/// Which field of a statement is what, by their numbers from 0.
 struct StatementColumns {
     std::size_t date = 0;
-    /// Those that may tell what it was for, the best one first.
+    /// Those that may tell what the money was for, the best one first.
     std::vector<std::size_t> titles;
     /// The amount with its sign, or else the two amounts without.
     std::optional<std::size_t> amount;

@@ -52,7 +52,7 @@ StatementDates::Readings StatementDates::readings(const QString& text) {
                 return {};
     Readings readings{date(parts[2], parts[1], parts[0]), date(parts[2], parts[0], parts[1]),
                       date(parts[0], parts[1], parts[2])};
-    // Between points, the day goes before the month wherever the year is last.
+    // With points, the day comes before the month in every country that puts the year last.
     if (hasPoints && readings[0])
         readings[1].reset();
     if (hasPoints && readings[0] && parts[0].size() == 2)

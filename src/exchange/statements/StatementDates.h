@@ -7,13 +7,13 @@
 
 namespace kovamo {
 
-/// How a statement writes its days, found out over the whole of it.
+/// How a statement writes its dates, learned from all of them.
 class StatementDates {
   public:
     /// By a format as QDate reads it ("dd.MM.yyyy"), or by their shape where it is empty.
     explicit StatementDates(QString format = {}) : m_format(std::move(format)) {}
 
-    /// Takes note of a date as it stands there; one that is none is passed over.
+    /// Learns from a date as the file has it; a text that is no date is ignored.
     void learn(const QString& text);
 
     /// Whether the dates that were learned can be read in one way only.

@@ -8,7 +8,7 @@ namespace kovamo {
 
 namespace {
 
-/// What the ids of statements' records are derived in.
+/// The namespace of the UUIDs that are made of a statement's records.
 constexpr QUuid nameSpace(0x6f1d6c0e, 0x2f0b, 0x4c58, 0x9d, 0x3a, 0x57, 0x1e, 0xc2, 0x84, 0xab,
                           0x90);
 
@@ -36,7 +36,7 @@ bool StatementReader::findHeader(char separator) {
                 return true;
             }
     } catch (const Fault&) {
-        // With another separator, perhaps.
+        // The caller tries the next separator.
     }
     return false;
 }
@@ -46,7 +46,7 @@ void StatementReader::learn() {
         try {
             isAtEnd = !m_records->next();
         } catch (const Fault&) {
-            continue; // it is told when the line is read
+            continue; // next() reports it when the records are read
         }
         if (isAtEnd)
             break;

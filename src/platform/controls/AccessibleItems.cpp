@@ -11,8 +11,8 @@ namespace kovamo {
 
 namespace {
 
-/// Whether nothing is said of an item but that it is there: Qt's controls say no more of
-/// themselves.
+/// Whether an item has neither a name nor a role: Qt's own controls attach Accessible without
+/// filling it in.
 bool isUnnamedLayer(const QObject* said) {
     const int role = said->property("role").toInt();
     return said->property("name").toString().isEmpty() &&
@@ -35,7 +35,7 @@ void gather(const QQuickItem* item, QList<QQuickItem*>& found) {
             gather(child, found);
 }
 
-/// Whether an open sheet waits to be closed before the user comes to the item.
+/// Whether an open sheet covers the item.
 bool isBehindSheet(const QQuickItem* item) {
     const QList<QQuickItem*> layers = item->window()->contentItem()->childItems();
     const auto overlay = std::ranges::find_if(
@@ -118,7 +118,7 @@ class AccessibleItem : public QAccessibleObject {
     }
 };
 
-/// A list, whose rows are read from top to bottom and not as they were made.
+/// A list, whose rows are read from top to bottom: ListView creates them in another order.
 class AccessibleList : public AccessibleItem {
   public:
     using AccessibleItem::AccessibleItem;

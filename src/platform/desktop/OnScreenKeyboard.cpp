@@ -66,7 +66,7 @@ void OnScreenKeyboard::setVisible(bool visible) {
 }
 
 bool OnScreenKeyboard::eventFilter(QObject*, QEvent* event) {
-    // The user may have sent the keyboard away, and taps the field to have it back.
+    // The user may have closed the keyboard; a tap on the field opens it again.
     if (event->type() == QEvent::MouseButtonRelease)
         setVisible(true);
     return false;

@@ -24,7 +24,7 @@ void fatalError(const QString& message) {
     std::fprintf(stderr, "Fatal error: %s\n", message.toUtf8().constData());
     std::fflush(stderr);
     if (const FatalErrorWitness witness = std::exchange(currentWitness(), nullptr)) {
-        // Ends the process where the witness does not come back.
+        // SIGALRM ends the process if the witness does not return.
         ::alarm(witnessSeconds);
         witness(message);
     }

@@ -9,8 +9,8 @@ namespace kovamo {
 /// survive.
 [[noreturn]] void fatalError(const QString& message);
 
-/// Who else hears of a fatal error before the end. It has two seconds, and is not told of errors of
-/// its own.
+/// Called with each fatal error before the process ends. It has two seconds; an error within it
+/// ends the process without a further call.
 using FatalErrorWitness = void (*)(const QString& message);
 void setFatalErrorWitness(FatalErrorWitness witness);
 

@@ -4,7 +4,7 @@
 
 namespace kovamo {
 
-/// Makes what was done to the names in a folder last.
+/// Brings the names of a folder's files to the disk: without it, a power cut can undo a rename.
 void syncFolder(const QString& folder);
 
 } // namespace kovamo

@@ -12,8 +12,8 @@ namespace kovamo {
 /// The user's preferences: `$XDG_CONFIG_HOME/name/name.conf` by the bundle's name, keys at top
 /// level or under [General], in a folder for its owner alone. Of a file that cannot be parsed
 /// in whole, what can be read counts, and the file is kept beside ("name.conf.broken-2026-11-24")
-/// before anything is written. What cannot be written goes with the process; the first such trouble
-/// says so in one line on standard error.
+/// before anything is written. A value that cannot be written lasts until the process ends; the
+/// first such failure is reported in one line on standard error.
 class UserDefaults {
   public:
     UserDefaults();

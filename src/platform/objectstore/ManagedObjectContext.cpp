@@ -37,7 +37,8 @@ void ManagedObjectContext::requireEntity(const FetchRequest& request) const {
 
 std::vector<ObjectID> ManagedObjectContext::fetchIDs(const FetchRequest& request) {
     reopenReplacedStore();
-    // What is pending is put among records that nobody may delete before they are read.
+    // One read transaction: pending records are sorted among stored ones, which another process
+    // could delete before they are read.
     const auto reading = m_unsaved.isEmpty() ? nullptr : m_store.readTransaction();
     return selectIDs(request);
 }
@@ -72,7 +73,7 @@ std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchReques
             read(found);
         objects.push_back(&found);
     }
-    // Where nothing is merged, nobody tells when another writer makes it wrong.
+    // Without merging, nothing tells when another process has made it out of date.
     if (m_mergesChanges)
         m_memory.keep(request, objects);
     return objects;
@@ -279,7 +280,7 @@ void ManagedObjectContext::reopenStore() {
         if (m_objects.contains(object->m_objectID) && !object->m_values.empty())
             object->m_objectID = places.unused();
         const auto [place, isFree] = m_objects.try_emplace(object->m_objectID, std::move(object));
-        if (!isFree) // nobody has looked at its values yet
+        if (!isFree) // its values were never read, so nothing is lost
             m_deletedObjects.push_back(std::move(object));
     }
     renumberInserted();

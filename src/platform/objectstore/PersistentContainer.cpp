@@ -45,7 +45,7 @@ std::optional<FormerStore> PersistentContainer::formerStore() const {
         former.records = StoreInspection(*copy, m_entity).count();
         return former.records > 0 ? std::optional(former) : std::nullopt;
     } catch (const StoreError&) {
-        // A copy that cannot be read is none to go back to.
+        // A copy that cannot be read is not offered.
         return {};
     }
 }

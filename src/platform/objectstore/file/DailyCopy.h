@@ -6,8 +6,8 @@
 namespace kovamo {
 
 /// The copy that the first write of a run, and of each day that the run lasts, keeps of what a
-/// store held before it. A store without records is not copied, and a copy that fails is given up
-/// for the day: no room for it is no reason not to save.
+/// store held before it. A store without records is not copied, and one that fails is given up for
+/// the day: where the disk has no room for it, a save still may.
 class DailyCopy {
   public:
     /// `table` is the quoted name of the table of the records.
@@ -20,7 +20,7 @@ class DailyCopy {
     /// Keeps the copy, unless the day has had its own.
     void keep(SQLite::Database& database);
 
-    /// Forgets the copy in the making.
+    /// Drops an unfinished copy.
     void abandon() { m_copy.reset(); }
 
   private:

@@ -32,7 +32,7 @@ QString nameWithin(const QString& path, const QFileInfo& store) {
     return QFileInfo(path).completeBaseName().mid(store.completeBaseName().size() + 1);
 }
 
-/// A path beside the store that nothing has yet, for a store that is set aside today.
+/// An unused path beside the store, for a store that is set aside today.
 QString freePath(const QFileInfo& store) {
     const QString base =
         store.dir().filePath(store.completeBaseName() + u'-' + setAside + dayText(Clock::now()));
@@ -94,8 +94,7 @@ void copyContent(const QString& from, const QString& to) {
         throw SQLite::Exception("The copy is busy", SQLITE_BUSY);
 }
 
-/// Gives the store's file a second name, or a file system that knows no such thing lets it have
-/// that one alone.
+/// Gives the store's file a second name, or renames it where the file system has no hard links.
 void keepUnder(const QString& asidePath, const QString& storePath) {
     if (::link(QFile::encodeName(storePath).constData(),
                QFile::encodeName(asidePath).constData()) != 0)

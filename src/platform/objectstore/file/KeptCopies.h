@@ -19,7 +19,7 @@ struct KeptCopy {
 
 /// Puts what the store at `copyPath` holds in the place of the store at `storePath`, in one step:
 /// a process that is killed leaves one or the other. The former store is kept beside it, with its
-/// log if it is too damaged to be rid of it; returns where, or nothing where there was none.
+/// log where it is too damaged to take the log in; returns where, or nothing if there was none.
 /// Requires that the copy is sound. Throws StoreError, and then the store is as it was.
 QString goBackTo(const QString& copyPath, const QString& storePath);
 

@@ -20,7 +20,7 @@ namespace kovamo {
 
 /// Remembers the content of a database's file, which is at `path`, as sound, in a file beside it,
 /// unless a part of the database still lies in its log. Requires that faultOf() found nothing. A
-/// seal that cannot be written is passed over: the next check takes longer.
+/// seal that cannot be written is no failure: the next check takes longer.
 void seal(SQLite::Database& database, const QString& path);
 
 } // namespace kovamo

@@ -26,13 +26,13 @@ QString copyOfToday(const QString& storePath) {
     return store.completeBaseName() + u'-' + dayText(Clock::now()) + u'.' + store.suffix();
 }
 
-/// How many of the copies' names are of days to come: the clock was ahead once, or is behind now.
+/// How many copies are named by a day in the future: the clock was ahead once, or is behind now.
 qsizetype copiesToCome(const QStringList& names, const QString& storePath) {
     const QString today = copyOfToday(storePath);
     return std::ranges::count_if(names, [&](const QString& name) { return name > today; });
 }
 
-/// The number by which a store is told from another at the same place.
+/// The number that tells a store from another one at the same path.
 std::uint32_t numberOf(SQLite::Database& store) {
     return store.execAndGet("PRAGMA application_id").getUInt();
 }
@@ -55,8 +55,8 @@ bool isUnfinished(const QString& path) {
            (file.size() == 0 || file.read(15) == QByteArrayView("SQLite format 3"));
 }
 
-/// Takes away what a killed process left in the making. Should another one be at it right now, its
-/// copy fails to get its name, and this one is as good.
+/// A path for the unfinished copy, once those that killed processes left are deleted. If another
+/// process is writing one right now, that copy fails to get its name, and this one is as good.
 QString freedPath(const QString& storePath) {
     QDir folder = folderOf(storePath);
     const QString base = u'.' + QFileInfo(storePath).fileName() + u"-copy-";

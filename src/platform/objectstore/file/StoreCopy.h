@@ -13,8 +13,8 @@ namespace kovamo {
 /// writable by its owner only ("Kovamo-2026-11-23.sqlite" beside "Kovamo.sqlite"). It takes the
 /// place of an earlier one of that day, so that the newest three are of three days, however often
 /// a day is copied. It bears a mark by which the store tells it from a file of the user's and from
-/// the copies of another store that was here before. Until it is finished, it is no more than a
-/// file that goes with the value. All failures are thrown as SQLite::Exception and leave no file
+/// the copies of another store that was here before. Until it is finished, its file is deleted
+/// with the value. All failures are thrown as SQLite::Exception and leave no file
 /// behind.
 class StoreCopy {
   public:

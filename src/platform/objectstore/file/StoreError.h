@@ -16,7 +16,7 @@ class StoreError : public std::exception {
     /// What went wrong, in the store's words.
     [[nodiscard]] const QString& description() const { return m_description; }
 
-    /// Whether the file has lost what it held, so that a copy of it is of use.
+    /// Whether the file is damaged, so that going back to a copy helps.
     [[nodiscard]] bool isDamage() const { return m_isDamage; }
 
     /// The file that it is about; empty where it names none.

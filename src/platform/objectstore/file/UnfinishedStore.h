@@ -6,8 +6,8 @@
 
 namespace kovamo {
 
-/// A store's file in the making, readable and writable by its owner only. It goes with the value,
-/// unless it has got another name by then. All failures are thrown as SQLite::Exception.
+/// A store's file in the making, readable and writable by its owner only. It is deleted with the
+/// value, unless finish() has renamed it. All failures are thrown as SQLite::Exception.
 class UnfinishedStore {
   public:
     /// Makes the empty file. Requires that there is none.
@@ -17,9 +17,9 @@ class UnfinishedStore {
 
     [[nodiscard]] const QString& path() const { return m_path; }
 
-    /// Lets the file say that no log belongs to it, as one does to the store's, and bear a mark if
-    /// there is one, makes all of it last and gives it the name `path`, which another file may have
-    /// until then. Requires that it is closed and holds pages of a store.
+    /// Takes write-ahead mode out of the file's header, for no log belongs to it, sets its mark if
+    /// one is given, brings it to the disk and renames it to `path`, in place of a file that is
+    /// there. Requires that it is closed and holds pages of a store.
     void finish(const QString& path, std::optional<std::uint32_t> mark = std::nullopt);
 
     /// The mark of a store's file; nothing where it cannot be read.

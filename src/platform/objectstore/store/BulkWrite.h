@@ -6,8 +6,8 @@
 
 namespace kovamo {
 
-/// Many records written in one transaction of a store, without an object for each: all of them
-/// last when it is committed, none where it goes before. Until then no other process can write,
+/// Many records written in one transaction of a store, without an object for each: all are stored
+/// by commit(), none if the value is destroyed before. Until then no other process can write,
 /// and what the store reads has them in it. All failures are thrown as StoreError.
 class BulkWrite {
   public:

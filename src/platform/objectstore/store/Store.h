@@ -78,7 +78,8 @@ class Store {
     /// empty.
     [[nodiscard]] bool isReplaced() const;
 
-    /// Whether there is a file at the store's path that is not empty, as one in the making is.
+    /// Whether there is a file at the store's path that is not empty: an empty one is still
+    /// being made.
     [[nodiscard]] bool isThere() const;
 
     /// Opens what lies at the path now, or makes it, and closes the file that was open before. When
@@ -100,7 +101,7 @@ class Store {
     EntityTable m_table;
     Access m_access;
     std::unique_ptr<StoreConnection> m_connection;
-    // After the connection, and so gone before it: a copy in the making reads from it.
+    // Declared after the connection, to be destroyed first: an unfinished copy reads from it.
     DailyCopy m_copy;
     ObjectID m_largestDeleted = 0;
     // Equal texts of many records share one QString, which saves memory.
