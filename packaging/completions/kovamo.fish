@@ -3,7 +3,7 @@ set -l commands export import balance list check copies restore
 set -l no_command "not __fish_seen_subcommand_from $commands"
 
 complete -c kovamo -n "$no_command" -a export -d 'Write the records to a file'
-complete -c kovamo -n "$no_command" -a import -d 'Take in the records of a file'
+complete -c kovamo -n "$no_command" -a import -d 'Import the records of a file'
 complete -c kovamo -n "$no_command" -a balance -d 'Print the balance of a time frame'
 complete -c kovamo -n "$no_command" -a list -d 'Print the transactions of a time frame'
 complete -c kovamo -n "$no_command" -a check -d 'Look for damage'
@@ -22,8 +22,8 @@ complete -c kovamo -n '__fish_seen_subcommand_from export' -l format -x -a 'csv 
 complete -c kovamo -n '__fish_seen_subcommand_from import' -l format -x -a 'csv json'
 complete -c kovamo -n '__fish_seen_subcommand_from balance' -l format -x -a 'text json'
 complete -c kovamo -n '__fish_seen_subcommand_from list' -l format -x -a 'text csv json'
-complete -c kovamo -n '__fish_seen_subcommand_from import' -l dry-run -d 'Tell what would come in'
-complete -c kovamo -n '__fish_seen_subcommand_from import' -l skip-bad -d 'Pass over bad lines'
+complete -c kovamo -n '__fish_seen_subcommand_from import' -l dry-run -d 'Tell what would change'
+complete -c kovamo -n '__fish_seen_subcommand_from import' -l skip-bad -d 'Skip bad lines'
 complete -c kovamo -n '__fish_seen_subcommand_from import' -l columns -x -d 'Words of the header'
 complete -c kovamo -n '__fish_seen_subcommand_from import' -l date-format -x -d 'How dates are written'
 complete -c kovamo -n '__fish_seen_subcommand_from import' -l emoji -x -d 'Stands beside the records'

@@ -2,7 +2,7 @@ import QtQuick
 import Kovamo.Controls
 import Kovamo.Desktop
 
-/*! One answer to what a card asks. */
+/*! A button of a card that asks something. */
 Pressable {
     id: button
 

@@ -25,8 +25,7 @@ QCommandLineOption frameOption(const QString& meaning) {
 }
 
 QCommandLineOption formatOption(const QStringList& formats) {
-    return {formatName, u"The format: " + formats.first() + u" unless told otherwise.",
-            formats.join(u'|')};
+    return {formatName, u"The format; " + formats.first() + u" by default.", formats.join(u'|')};
 }
 
 Call::Call(const Command& command, const QStringList& arguments) : m_command(command) {

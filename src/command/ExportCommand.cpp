@@ -74,7 +74,7 @@ ExitStatus run(const Call& call) {
 Command exportCommand() {
     return {
         .name = QStringLiteral("export"),
-        .summary = QStringLiteral("Write the records to a file that comes in again as they are."),
+        .summary = QStringLiteral("Write the records to a file, to be imported again as they are."),
         .options = {formatOption(formats),
                     frameOption(QStringLiteral("Only the records of a time frame: the current "
                                                "month, three months or twelve."))},

@@ -153,16 +153,16 @@ Command importCommand() {
     };
     return {
         .name = QStringLiteral("import"),
-        .summary = QStringLiteral("Take in the records of a file; none twice, and none is lost."),
+        .summary = QStringLiteral("Import the records of a file; none twice, and none is lost."),
         .options = {formatOption(formats),
-                    option("dry-run", "Tell what would come in, and change nothing."),
-                    option("skip-bad", "Pass over lines that cannot be read."),
+                    option("dry-run", "Tell what would change, and change nothing."),
+                    option("skip-bad", "Skip lines that cannot be read."),
                     option("columns",
-                           "The words of a statement's header, by what they are: date, title, "
-                           "amount, debit, credit.",
+                           "What a statement's header calls its date, title, amount, debit and "
+                           "credit.",
                            "date=Buchungstag,…"),
                     option("date-format", "How a statement writes its dates.", "dd.MM.yyyy"),
-                    option("emoji", "What stands beside the records of a statement.", "🏦")},
+                    option("emoji", "The emoji of a statement's records.", "🏦")},
         .operand = Operand{QStringLiteral("FILE"),
                            QStringLiteral("The file; standard input where it is - or missing.")},
         .run = run};

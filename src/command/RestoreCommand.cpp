@@ -47,10 +47,10 @@ Command restoreCommand() {
     return {.name = QStringLiteral("restore"),
             .summary = QStringLiteral("Go back to a copy; the present store is set aside."),
             .options = {},
-            .operand =
-                Operand{QStringLiteral("COPY"),
-                        QStringLiteral("What `kovamo copies` lists, or the path of a store."),
-                        true},
+            .operand = Operand{QStringLiteral("COPY"),
+                               QStringLiteral(
+                                   "A name that `kovamo copies` lists, or the path of a store."),
+                               true},
             .run = run};
 }
 

@@ -6,7 +6,7 @@ import Kovamo.Editing
 // Sheet creates its content in another file, which ComponentBehavior: Bound does not allow.
 // qmllint disable unqualified
 
-/*! The button of a bar by which records go out, come in and come back. */
+/*! The button of a bar that exports, imports and goes back to a copy. */
 BarButton {
     id: button
 
@@ -43,7 +43,7 @@ BarButton {
 
         onOpened: path => button.exchange.importFrom(path)
         onSaved: path => button.exchange.exportTo(path)
-        onUnavailable: (saves, title, name) => toolkitDialog.setSource(Qt.resolvedUrl("ToolkitFileDialog.qml"), {
+        onUnavailable: (saves, title, name) => qtDialog.setSource(Qt.resolvedUrl("QtFileDialog.qml"), {
                     "chooser": chooser,
                     "saves": saves,
                     "suggestedName": name,
@@ -51,7 +51,7 @@ BarButton {
                 })
     }
     Loader {
-        id: toolkitDialog
+        id: qtDialog
     }
     Sheet {
         presented: button.exchange.isPresented

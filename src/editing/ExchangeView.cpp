@@ -88,7 +88,7 @@ void ExchangeView::run(const QString& title, const std::function<Page()>& work) 
         } catch (const StoreError& error) {
             page = {.title = title, .lines = {error.description()}};
         }
-        // Queued calls go with the object, should it go first.
+        // Qt drops the call if this object is destroyed first.
         QMetaObject::invokeMethod(
             this,
             [this, number, page = std::move(page)] {
@@ -140,8 +140,7 @@ ExchangeView::Page ExchangeView::planPage(const QString& path) {
         page.lines.append(counted(tr("Already here"), plan.same + plan.older));
     }
     if (plan.conflictCount > 0)
-        page.lines.append(
-            counted(tr("Differing, as old as yours, which stay"), plan.conflictCount));
+        page.lines.append(counted(tr("Different here, kept as they are"), plan.conflictCount));
     if (plan.rounded > 0)
         page.lines.append(counted(tr("Amounts to be rounded"), plan.rounded));
     if (plan.faultCount > 0)
@@ -169,7 +168,7 @@ void ExchangeView::import(const QString& path) {
         Store store(m_storePath, Transaction::entity());
         const ImportReport report = importRecords(store, file, options);
         if (report.isRefused)
-            return {.title = tr("Import"), .lines = {tr("Nothing came in.")}};
+            return {.title = tr("Import"), .lines = {tr("Nothing was imported.")}};
         return {
             .title = tr("Imported"),
             .lines = {counted(tr("New"), report.added), counted(tr("Changed"), report.changed)}};
@@ -198,7 +197,7 @@ ExchangeView::Page ExchangeView::copyPage(const QString& copyPath, const QString
     return {.title = day,
             .lines = {counted(tr("Transactions in the copy"), countOf(copyPath).value_or(0)),
                       counted(tr("Transactions now"), countOf(m_storePath).value_or(0)),
-                      tr("What is stored now is set aside, and can be gone back to like a copy.")},
+                      tr("What is stored now is set aside; you can go back to it as to a copy.")},
             .choices = {},
             .action = tr("Go Back"),
             .next = {[=, this] { goBack(copyPath, day); }}};

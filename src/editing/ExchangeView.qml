@@ -7,7 +7,7 @@ import Kovamo.Forms
 // ComponentBehavior: Bound does not allow; so the ids of this file are used unqualified.
 // qmllint disable unqualified
 
-/*! What an export, an import or a copy brings, and the button that goes on. */
+/*! What an export, an import or a copy does, and the button that does it. */
 NavigationStack {
     id: screen
 

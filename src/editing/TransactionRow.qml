@@ -13,7 +13,7 @@ Item {
     property bool marksRecurring: false
 
     readonly property real margins: Metrics.padding * 2 + Metrics.step * 2 + (symbol.visible ? symbol.width + Metrics.step * 2 : 0)
-    /*! What is not left for the emoji and the title side by side with the amount. */
+    /*! The width that the emoji and the title cannot have beside the amount. */
     readonly property real taken: margins + amountText.width + Metrics.step * 2
     /*! The room for the title and the amount, and for the title beside the amount. */
     readonly property real room: width - emojiText.width - margins

@@ -10,7 +10,7 @@ FocusScope {
 
     required property TransactionSearch search
 
-    /*! The user goes on to the rows that were found. */
+    /*! The user moves down to the rows that were found. */
     signal wentOn
 
     /*! Gives the focus to the field. */

@@ -38,7 +38,7 @@ FocusScope {
         list.forceActiveFocus(Qt.OtherFocusReason);
     }
 
-    /*! Brings a row in sight that has come back. */
+    /*! Scrolls to a row that an undo has brought back. */
     function show(row: int) {
         if (row < 0)
             return;

@@ -17,8 +17,9 @@ constexpr QUuid nameSpace(0x6f1d6c0e, 0x2f0b, 0x4c58, 0x9d, 0x3a, 0x57, 0x1e, 0x
 StatementReader::StatementReader(QIODevice& device, const ImportOptions& options)
     : m_device(device), m_options(options), m_start(device.pos()), m_dates(options.dateFormat) {
     if (!findHeader(',') && !findHeader(';') && !findHeader('\t'))
-        throw Fault{QStringLiteral("No line names a date and an amount; --columns can say how the "
-                                   "file calls them")};
+        throw Fault{
+            QStringLiteral("No line names a date and an amount; --columns can tell what the "
+                           "file calls them")};
     const char separator = m_records->separator();
     learn();
     (void)findHeader(separator);

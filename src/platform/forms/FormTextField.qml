@@ -23,7 +23,7 @@ FormRow {
     signal edited(string text)
 
     /*! The end of a text that is longer than Qt can lay out in a moment. Such a text can be cleared,
-        but not edited: who replaced its beginning would keep an end that does not show. */
+        but not edited: an edit would change the part that shows and keep the one that does not. */
     property string unseen
     readonly property int longest: 100000
 
@@ -46,7 +46,7 @@ FormRow {
         field.follow();
     }
 
-    /*! Leaves the text: without a field that has the focus, there is no keyboard on the screen. */
+    /*! Takes the focus from the field, which closes the on-screen keyboard. */
     function leave() {
         if (field.next)
             field.next.forceActiveFocus(Qt.TabFocusReason);

@@ -13,9 +13,9 @@ FocusScope {
 
     /*! The user changed the text to `text`. */
     signal edited(string text)
-    /*! The user wants no search any more. */
+    /*! The user ends the search. */
     signal cancelled
-    /*! The user goes on to what was found. */
+    /*! The user moves down to what was found. */
     signal wentOn
     /*! The user pressed Enter or Return. */
     signal entered

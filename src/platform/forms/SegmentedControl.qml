@@ -12,7 +12,7 @@ Focusable {
     /*! The label that is chosen. */
     property string selected
     readonly property int inset: 2
-    /*! The height of what is drawn; what is touched is a row's. */
+    /*! The height of what is drawn; the area to tap is as high as a row. */
     readonly property real trackHeight: Math.max(32, sizer.height + Metrics.step * 3)
     readonly property int index: labels.indexOf(selected)
 

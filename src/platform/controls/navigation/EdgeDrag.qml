@@ -9,7 +9,7 @@ Item {
     /*! How far it went, in points; never out over the edge. The owner sets it back. */
     property real distance: 0
 
-    /*! What dragged let go, at `velocity` points a second away from the edge. */
+    /*! The finger or mouse was lifted, at `velocity` points a second away from the edge. */
     signal released(real velocity)
 
     width: 20

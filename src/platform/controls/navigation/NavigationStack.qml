@@ -40,7 +40,7 @@ FocusScope {
         view.currentItem.x = stack.direction * distance;
     }
 
-    /*! The page that was pulled aside goes on at `velocity` points a second, or comes back. */
+    /*! Ends a drag: the page leaves at `velocity` points a second, or comes back. */
     function release(velocity: real) {
         if (edge.distance + velocity * 0.2 > view.width / 2)
             stack.goBack();

@@ -12,8 +12,8 @@ namespace kovamo {
 /// What a store is opened for: only to read, nothing is made, and nothing changed beside it.
 enum class StoreAccess { read, readAndWrite };
 
-/// One SQLite file while it is open as a store: found to be one when it is opened, written to as
-/// SQLite's write-ahead log wants it, and sealed when it is closed.
+/// One SQLite file while it is open as a store: checked when it is opened, in write-ahead mode from
+/// its first write on, sealed when it is closed.
 class StoreConnection {
   public:
     /// Opens the store at `path`, or makes it; refuses what Store() refuses, with a StoreError.
@@ -37,8 +37,9 @@ class StoreConnection {
     /// Whether another file has taken the place of this one, or that place is empty.
     [[nodiscard]] bool isReplaced() const;
 
-    /// Moves the log into the file, whose place another file has taken, and removes what lies
-    /// beside that place of it. From then on the file counts as replaced. Throws SQLite::Exception.
+    /// Gives up a file whose place another one has taken: moves its log into it, and removes the
+    /// -wal and -shm files where they are still its own. From then on isReplaced() is true. Throws
+    /// SQLite::Exception.
     void leave();
 
   private:
@@ -56,7 +57,7 @@ class StoreConnection {
     std::unique_ptr<SQLite::Database> m_database;
     std::unique_ptr<StatementCache> m_statements;
     FileIdentity m_file;
-    // Of the memory beside the file that its log is read by; empty until there is one.
+    // Of the -shm file; empty until SQLite has made it. It tells whose the files beside are.
     FileIdentity m_sharedMemory;
     bool m_hasLeft = false;
     bool m_wasWritten = false;

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Dialogs
 import Kovamo.Desktop
 
-/*! The toolkit's own file dialog, where the desktop offers none: it answers for `chooser`. */
+/*! Qt's own file dialog, where the desktop offers none: it answers for `chooser`. */
 FileDialog {
     id: dialog
 
