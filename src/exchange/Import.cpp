@@ -43,83 +43,113 @@ std::unique_ptr<QFile> spool(QIODevice& device) {
     return file;
 }
 
-/// Goes through a file. What it adds and changes goes to `write`, if that is given.
-ImportReport run(Store& store, QIODevice& device, const ImportOptions& options, BulkWrite* write) {
-    ImportReport report;
-    const auto fault = [&](qint64 line, const Fault& why) {
-        note(report.faults, report.faultCount, line, why.text);
-    };
-    std::unique_ptr<RecordReader> reader;
-    try {
-        reader = makeRecordReader(device, options);
-    } catch (const Fault& why) {
-        fault(1, why);
-        report.isRefused = true;
-        return report;
+/// One pass through a file. What it adds and changes goes to `write`, if that is given.
+class Pass {
+  public:
+    Pass(Store& store, const ImportOptions& options, BulkWrite* write)
+        : m_store(store), m_options(options), m_write(write) {}
+
+    [[nodiscard]] ImportReport through(QIODevice& device);
+
+  private:
+    [[nodiscard]] bool readNext(std::vector<Value>& values);
+    void take(std::span<const Value> values);
+    [[nodiscard]] bool isHopeless() const;
+    [[nodiscard]] bool isStopped();
+    [[nodiscard]] ImportReport refused();
+    void noteFault(qint64 line, const Fault& why) {
+        note(m_report.faults, m_report.faultCount, line, why.text);
     }
-    KnownRecords known;
-    store.forEach([&](ObjectID id, std::span<const Value> values) {
-        known.addStored(id, values);
+
+    Store& m_store;
+    const ImportOptions& m_options;
+    BulkWrite* m_write;
+    std::unique_ptr<RecordReader> m_reader;
+    KnownRecords m_known;
+    ObjectID m_nextID = 0;
+    qint64 m_told = 0;
+    ImportReport m_report;
+};
+
+ImportReport Pass::through(QIODevice& device) {
+    try {
+        m_reader = makeRecordReader(device, m_options);
+    } catch (const Fault& why) {
+        noteFault(1, why);
+        return refused();
+    }
+    m_store.forEach([&](ObjectID id, std::span<const Value> values) {
+        m_known.addStored(id, values);
         return true;
     });
-    ObjectID nextID = write ? write->nextID() : 0;
-    const auto take = [&](std::span<const Value> values) {
-        const auto [standing, id] = known.take(nextID, values, reader->rounding() != nullptr);
-        switch (standing) {
-        case KnownRecords::Standing::added:
-            ++report.added;
-            ++nextID;
-            if (write)
-                write->insert(values);
-            break;
-        case KnownRecords::Standing::changed:
-            ++report.changed;
-            if (write)
-                write->update(id, values);
-            break;
-        case KnownRecords::Standing::same:
-            ++report.same;
-            break;
-        case KnownRecords::Standing::older:
-            ++report.older;
-            break;
-        case KnownRecords::Standing::conflict:
-            note(report.conflicts, report.conflictCount, reader->line(),
-                 QStringLiteral("%1 is stored with the same timestamp and other contents")
-                     .arg(nameOf(values)));
-            break;
-        }
-    };
-    std::vector<Value> values;
+    m_nextID = m_write ? m_write->nextID() : 0;
+    for (std::vector<Value> values; readNext(values);)
+        if (isHopeless() || isStopped())
+            return refused();
+    if (const Rounding* rounding = m_reader->rounding()) {
+        m_report.rounded = rounding->count;
+        m_report.roundedSum = rounding->hundredths;
+    }
+    m_report.isRefused = m_report.faultCount > 0 && !m_options.skipBad;
+    return m_report;
+}
+
+bool Pass::readNext(std::vector<Value>& values) {
+    try {
+        if (!m_reader->next(values))
+            return false;
+        take(values);
+    } catch (const Fault& why) {
+        noteFault(m_reader->line(), why);
+    }
+    return true;
+}
+
+void Pass::take(std::span<const Value> values) {
+    const auto [standing, id] = m_known.take(m_nextID, values, m_reader->rounding() != nullptr);
+    switch (standing) {
+    case KnownRecords::Standing::added:
+        ++m_report.added;
+        ++m_nextID;
+        if (m_write)
+            m_write->insert(values);
+        break;
+    case KnownRecords::Standing::changed:
+        ++m_report.changed;
+        if (m_write)
+            m_write->update(id, values);
+        break;
+    case KnownRecords::Standing::same:
+        ++m_report.same;
+        break;
+    case KnownRecords::Standing::older:
+        ++m_report.older;
+        break;
+    case KnownRecords::Standing::conflict:
+        note(m_report.conflicts, m_report.conflictCount, m_reader->line(),
+             QStringLiteral("%1 is stored with the same timestamp and other contents")
+                 .arg(nameOf(values)));
+        break;
+    }
+}
+
+/// Whether this is no file of records. It may never end, as a device does.
+bool Pass::isHopeless() const {
+    constexpr qint64 hopeless = 1000;
+    return m_report.faultCount == hopeless && m_report.added + m_report.same == 0;
+}
+
+bool Pass::isStopped() {
     constexpr qint64 step = 256 * 1024;
-    qint64 told = 0;
-    for (;;) {
-        try {
-            if (!reader->next(values))
-                break;
-            take(values);
-        } catch (const Fault& why) {
-            fault(reader->line(), why);
-        }
-        constexpr qint64 hopeless = 1000;
-        if (report.faultCount == hopeless && report.added + report.same == 0) {
-            report.isRefused = true; // no file of records, and it may never end
-            return report;
-        }
-        if (options.progress && reader->position() >= told + step) {
-            told = reader->position();
-            if (!options.progress(told)) {
-                report.isRefused = true;
-                return report;
-            }
-        }
-    }
-    if (const Rounding* rounding = reader->rounding()) {
-        report.rounded = rounding->count;
-        report.roundedSum = rounding->hundredths;
-    }
-    report.isRefused = report.faultCount > 0 && !options.skipBad;
-    return report;
+    if (!m_options.progress || m_reader->position() < m_told + step)
+        return false;
+    m_told = m_reader->position();
+    return !m_options.progress(m_told);
+}
+
+ImportReport Pass::refused() {
+    m_report.isRefused = true;
+    return m_report;
 }
 
 } // namespace
@@ -144,13 +174,13 @@ std::unique_ptr<RecordReader> makeRecordReader(QIODevice& device, const ImportOp
 
 ImportReport planImport(Store& store, QIODevice& device, const ImportOptions& options) {
     const auto spooled = spool(device);
-    return run(store, spooled ? *spooled : device, options, nullptr);
+    return Pass(store, options, nullptr).through(spooled ? *spooled : device);
 }
 
 ImportReport importRecords(Store& store, QIODevice& device, const ImportOptions& options) {
     const auto spooled = spool(device);
     BulkWrite write(store);
-    ImportReport report = run(store, spooled ? *spooled : device, options, &write);
+    ImportReport report = Pass(store, options, &write).through(spooled ? *spooled : device);
     if (!report.isRefused)
         write.commit();
     return report;
