@@ -10,7 +10,7 @@
 namespace kovamo {
 
 /// A copy of a store in the making: a complete store beside it that bears the day, readable and
-/// writable by its owner only ("Kovamo-2026-11-23.sqlite" beside "Kovamo.sqlite"). It takes the
+/// writable by its owner only ("Notes-2026-11-23.sqlite" beside "Notes.sqlite"). It takes the
 /// place of an earlier one of that day, so that the newest three are of three days, however often
 /// a day is copied. It bears a mark by which the store tells it from a file of the user's and from
 /// the copies of another store that was here before. Until it is finished, its file is deleted
