@@ -13,14 +13,10 @@ Window {
     property bool reducedMotion: false
     /*! How much larger than usual all text is. */
     property real textScale: 1
-    readonly property bool fillsScreen: visibility === Window.Maximized || visibility === Window.FullScreen
 
     LayoutMirroring.childrenInherit: true
     LayoutMirroring.enabled: root.mirrored
     color: SystemColors.background
-    // On Wayland, Qt draws the title bar into the window: where that fills the screen, nothing is to be
-    // moved, and a phone has no room for it.
-    flags: Qt.platform.pluginName.startsWith("wayland") && fillsScreen ? Qt.Window | Qt.FramelessWindowHint : Qt.Window
     height: 844
     minimumHeight: 120
     minimumWidth: 320

@@ -66,14 +66,34 @@ void raise(QWindow& window) {
     window.requestActivate();
 }
 
-/// Keeps the window's motion and size of text as the desktop wants them.
+/// Takes the title bar off the window while it fills the screen: on Wayland, Qt draws the bar into
+/// the window, where nothing is to be moved then, and a phone has no room for it.
+void fitTitleBar(QQuickWindow& window) {
+    const bool fills =
+        window.visibility() == QWindow::Maximized || window.visibility() == QWindow::FullScreen;
+    if (window.flags().testFlag(Qt::FramelessWindowHint) == fills)
+        return;
+    const QMargins bar = window.frameMargins();
+    window.setFlag(Qt::FramelessWindowHint, fills);
+    // Unless the compositor happens to tell the size once more, Qt leaves the window as small as
+    // the bar made it, and black.
+    if (fills)
+        window.resize(window.size().grownBy(bar));
+}
+
+/// Keeps the window's motion, size of text and title bar as the desktop wants them.
 void follow(const DesktopSettings& desktop, QQuickWindow& window) {
     QObject::connect(&desktop, &DesktopSettings::reducedMotionChanged, &window,
                      [&] { window.setProperty("reducedMotion", desktop.reducedMotion()); });
+    if (!QGuiApplication::platformName().startsWith(u"wayland"))
+        return;
     // On X the size of text is in the screen's resolution, which Qt scales everything by.
-    if (QGuiApplication::platformName().startsWith(u"wayland"))
-        QObject::connect(&desktop, &DesktopSettings::textScaleChanged, &window,
-                         [&] { window.setProperty("textScale", desktop.textScale()); });
+    QObject::connect(&desktop, &DesktopSettings::textScaleChanged, &window,
+                     [&] { window.setProperty("textScale", desktop.textScale()); });
+    // Queued: the size that comes with the state is to be known.
+    QObject::connect(
+        &window, &QWindow::visibilityChanged, &window, [&] { fitTitleBar(window); },
+        Qt::QueuedConnection);
 }
 
 int draw(const Options& options) {
