@@ -14,6 +14,7 @@ Focusable {
     required property ContentState content
     /*! Where the bubble points; -1 for none. */
     property real at: -1
+    readonly property real fromTop: y - (ListView.view?.contentY ?? 0)
 
     Accessible.name: line.sentence
     Accessible.role: Accessible.ListItem
@@ -79,6 +80,7 @@ Focusable {
         center: row.at
         text: row.at < 0 ? "" : row.content.rowComposition(row.index)
         width: Math.min(implicitWidth, row.width)
-        y: Metrics.step - height
+        // Above the row, under it where that is out of sight.
+        y: row.fromTop < height ? row.height - Metrics.step : Metrics.step - height
     }
 }

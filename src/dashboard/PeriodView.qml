@@ -55,6 +55,7 @@ Item {
         }
         header: TransactionChart {
             chart: period.content.chart
+            hidden: list.contentY - y
             width: list.width
 
             // A header that grows would stay above the visible part of the list.

@@ -12,6 +12,8 @@ FocusScope {
     required property transactionChart chart
     /*! The column whose bubble shows; -1 for none. */
     property int column: -1
+    /*! How much of its top is out of sight. */
+    property real hidden: 0
 
     function step(by: int) {
         column = Math.max(0, Math.min(chart.count - 1, column + by));
@@ -108,6 +110,6 @@ FocusScope {
         center: row.chart.columnCenter(row.column, plot.width)
         text: row.chart.columnText(row.column)
         width: Math.min(implicitWidth, row.width)
-        y: plot.y - height / 2 + Metrics.padding
+        y: Math.max(row.hidden, plot.y - height / 2 + Metrics.padding)
     }
 }
