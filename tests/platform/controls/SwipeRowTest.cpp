@@ -47,6 +47,23 @@ TEST(SwipeRow, OnceOpenDeletesOrCloses) {
     EXPECT_EQ(stage.log(), "clicked 1delete 0");
 }
 
+TEST(SwipeRow, TakesATapForOneWhereTheAppWasBusy) {
+    Stage stage(rows, false);
+    QTest::mousePress(stage.window(), Qt::LeftButton, {}, {100, 20});
+    for (QObject* handler : stage.item("row0")->findChildren<QObject*>())
+        if (handler->inherits("QQuickTapHandler") && handler->property("pressed").toBool())
+            QMetaObject::invokeMethod(handler, "longPressed");
+    QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, {100, 20});
+    EXPECT_EQ(stage.log(), "clicked 0");
+    stage.click({100, 60});
+    EXPECT_EQ(stage.log(), "clicked 0clicked 1") << "no menu lies over the rows";
+    QTest::mousePress(stage.window(), Qt::LeftButton, {}, {100, 20});
+    EXPECT_TRUE(Stage::soon([&] { return shown(*stage.window(), "Delete", false); }));
+    QTest::lastMouseTimestamp += 1000;
+    QTest::mouseRelease(stage.window(), Qt::LeftButton, {}, {100, 20});
+    EXPECT_EQ(stage.log(), "clicked 0clicked 1") << "a press that long is no tap";
+}
+
 TEST(SwipeRow, IsClosedForTheNextRecordThatItShows) {
     Stage stage(R"(
         ListView {

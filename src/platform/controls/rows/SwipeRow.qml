@@ -70,6 +70,14 @@ DeletableRow {
     onOpenedChanged: if (opened)
         row.forceActiveFocus(Qt.MouseFocusReason)
 
+    // Where the app was busy, a tap's press looks long until its release is read, which waits already.
+    Timer {
+        id: letGo
+
+        interval: 50
+
+        onTriggered: row.showMenu(tap.point.position.x, tap.point.position.y)
+    }
     NumberAnimation {
         id: movement
 
@@ -125,10 +133,9 @@ DeletableRow {
 
                 gesturePolicy: TapHandler.ReleaseWithinBounds
 
-                onLongPressed: row.showMenu(point.position.x, point.position.y)
+                onLongPressed: letGo.start()
+                onPressedChanged: letGo.stop()
                 onTapped: {
-                    // The press of a tap looks long where the app was busy meanwhile.
-                    menu.close();
                     row.forceActiveFocus(Qt.MouseFocusReason);
                     row.offset > 0 ? row.close() : row.clicked();
                 }
