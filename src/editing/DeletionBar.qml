@@ -3,7 +3,7 @@ import Kovamo.Controls
 import Kovamo.Desktop
 
 /*! Says at the bottom of a list what was deleted, with a button that takes it back. */
-Item {
+FocusScope {
     id: bar
 
     /*! What was deleted; nothing hides the bar. */
@@ -12,6 +12,7 @@ Item {
 
     signal undone
 
+    enabled: sentence !== ""
     implicitHeight: Math.max(Metrics.rowHeight, words.height) + Metrics.step * 2
     opacity: sentence === "" ? 0 : 1
     visible: opacity > 0
@@ -46,10 +47,9 @@ Item {
         anchors.leftMargin: Metrics.padding
         anchors.right: undo.left
         anchors.verticalCenter: parent.verticalCenter
-        elide: TextStyles.isLarge ? Text.ElideRight : Text.ElideMiddle
-        maximumLineCount: TextStyles.isLarge ? 3 : 1
+        maximumLineCount: TextStyles.isLarge ? 3 : 2
         text: bar.shownSentence
-        wrapMode: TextStyles.isLarge ? Text.Wrap : Text.NoWrap
+        wrapMode: Text.Wrap
     }
     Announcement {
         Accessible.name: text
@@ -63,7 +63,7 @@ Item {
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
         description: qsTr("Takes the deletion back")
-        enabled: bar.sentence !== ""
+        focus: true
         implicitWidth: undoText.implicitWidth + Metrics.padding * 2
         text: qsTr("Undo")
 

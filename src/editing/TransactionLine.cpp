@@ -30,7 +30,8 @@ QString signedAmount(bool isPositive, std::int32_t amount) {
 }
 
 QString deletionSentence(const TransactionPresentation& deleted) {
-    const QString title = shownText(deleted.title.value_or(QString())).simplified();
+    constexpr qsizetype longest = 40;
+    const QString title = shownText(deleted.title.value_or(QString()), longest).simplified();
     if (deleted.isRecurring != true || !deleted.recurringType || !deleted.startDate)
         return title + u" deleted";
     return title + u", " + *deleted.recurringType + u" since " +

@@ -38,6 +38,12 @@ FocusScope {
         list.forceActiveFocus(Qt.OtherFocusReason);
     }
 
+    /*! Deletes the record of a row. The next row has the focus at once, for the next key. */
+    function remove(row: int) {
+        transactions.remove([row]);
+        list.forceLayout();
+    }
+
     /*! Scrolls to a row that an undo has brought back. */
     function show(row: int) {
         if (row < 0)
@@ -104,7 +110,8 @@ FocusScope {
 
         Accessible.name: page.navigationTitle
         focus: true
-        height: parent.height - y
+        // The last rows are not to lie behind the bar.
+        height: parent.height - y - (deletionBar.enabled ? deletionBar.height + 2 * deletionBar.anchors.bottomMargin : 0)
         model: page.search
         width: parent.width
         y: page.search.isOpen ? searchBar.height : 0
@@ -127,7 +134,7 @@ FocusScope {
                     close();
             }
             onClicked: page.opened(index)
-            onDeleteRequested: page.transactions.remove([index])
+            onDeleteRequested: page.remove(index)
 
             TransactionRow {
                 id: words
@@ -155,12 +162,17 @@ FocusScope {
             page.find()
     }
     DeletionBar {
+        id: deletionBar
+
         anchors.bottom: parent.bottom
         anchors.bottomMargin: Metrics.step * 2
         anchors.horizontalCenter: parent.horizontalCenter
         sentence: page.transactions.deleted.sentence
         width: Math.min(parent.width - Metrics.padding, Metrics.readableWidth)
 
+        // "Undo" goes with the bar and must not take the focus along.
+        onEnabledChanged: if (focus)
+            list.focus = true
         onUndone: page.show(page.transactions.takeBack())
     }
 }

@@ -95,6 +95,14 @@ class Visit {
         });
         return found ? found->property(property).toDouble() : std::nan("");
     }
+    /// Whether an element comes to lie above another one.
+    [[nodiscard]] bool isAbove(const QString& upper, const QString& lower) const {
+        return soon([&] {
+            const QQuickItem* item = named(*m_window, upper);
+            return item && item->mapToScene({0, item->height()}).y() <=
+                               named(*m_window, lower)->mapToScene({}).y();
+        });
+    }
     void setReducedMotion(bool reduced) { m_window->setProperty("reducedMotion", reduced); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
         QTest::keyClick(m_window, key, modifiers);
@@ -196,6 +204,24 @@ TEST_F(App, LetsTheBalanceScrollAwayOnAShortScreen) {
         EXPECT_TRUE(visit.isInSight("Your Kovamo is positive 👍", size.height() > 480))
             << size.width();
     }
+}
+
+TEST_F(App, LeavesNoRowBehindWhatTakesADeletionBack) {
+    Book book({{1}, {2}, {3}, {4}, {5}, {6}, {7}, {8}, {9}, {10}, {11}, {12}});
+    Visit visit(book);
+    visit.resize({320, 480});
+    visit.press(Qt::Key_L, Qt::ControlModifier);
+    visit.press(Qt::Key_End);
+    for (const int next : {2, 3}) {
+        visit.press(Qt::Key_Delete);
+        EXPECT_TRUE(
+            visit.isAbove(QStringLiteral("title, earning, $%1, May 15, 2024").arg(next), "Undo"));
+    }
+    visit.click("Undo");
+    visit.press(Qt::Key_Delete);
+    EXPECT_EQ(Book().all().size(), 11U) << "the first key shows the row";
+    visit.press(Qt::Key_Delete);
+    EXPECT_EQ(Book().all().size(), 10U);
 }
 
 TEST_F(App, ShowsTheMonthToWhichTheUserComesBack) {

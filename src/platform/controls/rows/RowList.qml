@@ -23,6 +23,11 @@ ListView {
         }
     }
 
+    function showMarked() {
+        if ((list.currentItem as Focusable)?.visualFocus)
+            list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+    }
+
     Accessible.role: Accessible.List
     clip: true
     highlightMoveDuration: 0
@@ -36,10 +41,11 @@ ListView {
             list.currentIndex = row;
     }
 
+    onHeightChanged: showMarked()
+
     Connections {
         function onVisualFocusChanged() {
-            if ((list.currentItem as Focusable).visualFocus)
-                list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            list.showMarked();
         }
 
         target: list.currentItem as Focusable
