@@ -5,8 +5,12 @@ import QtQuick
 QtObject {
     readonly property int step: 4
     readonly property int padding: 16
-    /*! The least height of a row and of what is pressed: 44, more with large text. */
-    readonly property int rowHeight: Math.max(44, Math.ceil(body.height + 5 * step))
+    /*! The least width and height of what a finger is to hit. */
+    readonly property int target: 44
+    /*! The least width of a month's seven days side by side. */
+    readonly property int weekWidth: 7 * target
+    /*! The least height of a row and of what is pressed: a target's, more with large text. */
+    readonly property int rowHeight: Math.max(target, Math.ceil(body.height + 5 * step))
     readonly property int cardRadius: 10
 
     /*! The side of a bar's symbol, which grows with the text beside it. */

@@ -4,7 +4,8 @@ import Kovamo.Controls
 import Kovamo.Emoji
 import Kovamo.Desktop
 
-/*! The categories of emoji, side by side, to jump to. */
+/*! The categories of emoji, side by side, to jump to. Where they have no room they scroll, and the
+    one that is in sight stays seen. */
 Item {
     id: bar
 
@@ -21,45 +22,53 @@ Item {
     Divider {
         width: parent.width
     }
-    Row {
-        id: row
+    ListView {
+        id: tabs
 
         anchors.centerIn: parent
-        width: Math.min(parent.width - Metrics.step * 2, Metrics.rowHeight * bar.categories.length)
+        boundsBehavior: Flickable.StopAtBounds
+        // All are made, so that the Tab key and a screen reader find them.
+        cacheBuffer: Metrics.rowHeight * count
+        clip: true
+        currentIndex: bar.category
+        height: Metrics.rowHeight
+        highlightMoveDuration: Motion.duration(250)
+        keyNavigationEnabled: false
+        model: bar.categories
+        orientation: ListView.Horizontal
+        width: Math.min(parent.width, Metrics.rowHeight * count)
 
-        Repeater {
-            model: bar.categories
+        delegate: Pressable {
+            id: tab
 
-            Pressable {
-                id: tab
+            required property int index
+            required property emojiCategory modelData
 
-                required property int index
-                required property emojiCategory modelData
+            Accessible.role: Accessible.PageTab
+            Accessible.selectable: true
+            Accessible.selected: bar.category === index
+            opacity: 1
+            text: modelData.title
+            width: Metrics.rowHeight
 
-                Accessible.role: Accessible.PageTab
-                Accessible.selectable: true
-                Accessible.selected: bar.category === index
-                opacity: 1
-                text: modelData.title
-                width: row.width / bar.categories.length
+            onActiveFocusChanged: if (activeFocus)
+                tabs.positionViewAtIndex(index, ListView.Contain)
+            onClicked: bar.picked(index)
 
-                onClicked: bar.picked(index)
-
-                Rectangle {
-                    anchors.centerIn: parent
-                    color: SystemColors.fill
-                    height: width
-                    radius: width / 2
-                    visible: tab.Accessible.selected
-                    width: Math.min(parent.width, parent.height)
-                }
-                EmojiText {
-                    anchors.centerIn: parent
-                    font: TextStyles.emoji
-                    opacity: tab.pressed ? 0.35 : 1
-                    scale: Math.min(1, (parent.width - Metrics.step * 2) / width)
-                    text: tab.modelData.symbol
-                }
+            Rectangle {
+                anchors.centerIn: parent
+                color: SystemColors.fill
+                height: width
+                radius: width / 2
+                visible: tab.Accessible.selected
+                width: Metrics.rowHeight
+            }
+            EmojiText {
+                anchors.centerIn: parent
+                font: TextStyles.emoji
+                opacity: tab.pressed ? 0.35 : 1
+                scale: Math.min(1, (parent.width - Metrics.step * 2) / width)
+                text: tab.modelData.symbol
             }
         }
     }

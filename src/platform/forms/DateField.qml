@@ -113,7 +113,7 @@ Column {
 
             anchors.horizontalCenter: parent.horizontalCenter
             calendar: month
-            width: Math.min(parent.width - 2 * Metrics.step, 420)
+            width: Math.min(Math.max(parent.width - 2 * Metrics.step, Metrics.weekWidth), 420)
         }
     }
 }

@@ -56,7 +56,8 @@ FocusScope {
             bottomPadding: Metrics.padding * 2
             spacing: Metrics.padding + Metrics.step
             topPadding: Metrics.step * 2
-            width: Math.min(parent.width - 2 * Metrics.padding, Metrics.readableWidth)
+            // On a narrow screen its margins leave a month the room it needs.
+            width: Math.min(Math.max(parent.width - 2 * Metrics.padding, Metrics.weekWidth), Metrics.readableWidth)
             x: (parent.width - width) / 2
         }
     }
