@@ -11,20 +11,27 @@ namespace kovamo {
 
 namespace {
 
-/// Whether an item has neither a name nor a role: Qt's own controls attach Accessible without
-/// filling it in.
+/// Whether an item has no name and at most the role of one that holds others: Qt's own controls and
+/// popups attach Accessible without filling it in.
 bool isUnnamedLayer(const QObject* said) {
-    const int role = said->property("role").toInt();
+    constexpr int layers[] = {QAccessible::NoRole,      QAccessible::Client,   QAccessible::Pane,
+                              QAccessible::LayeredPane, QAccessible::Grouping, QAccessible::Dialog};
     return said->property("name").toString().isEmpty() &&
-           (role == QAccessible::NoRole || role == QAccessible::Client);
+           std::ranges::find(layers, said->property("role").toInt()) != std::end(layers);
 }
 
-/// What QML says of an item by "Accessible."; null where it says nothing, or to ignore it.
+/// What QML says of an item by "Accessible."; null where it says nothing.
+QObject* saidOf(const QQuickItem* item) {
+    const auto says = std::ranges::find_if(item->children(), [](const QObject* child) {
+        return child->inherits("QQuickAccessibleAttached");
+    });
+    return says == item->children().end() ? nullptr : *says;
+}
+
+/// The same; null where nothing is to be read, too.
 QObject* attached(const QQuickItem* item) {
-    for (QObject* child : item->children())
-        if (child->inherits("QQuickAccessibleAttached"))
-            return child->property("ignored").toBool() || isUnnamedLayer(child) ? nullptr : child;
-    return nullptr;
+    QObject* says = saidOf(item);
+    return !says || says->property("ignored").toBool() || isUnnamedLayer(says) ? nullptr : says;
 }
 
 void gather(const QQuickItem* item, QList<QQuickItem*>& found) {
@@ -33,6 +40,14 @@ void gather(const QQuickItem* item, QList<QQuickItem*>& found) {
             found.append(child);
         else
             gather(child, found);
+}
+
+/// Whether an item is the layer of a sheet: a card that the app goes on beside has its dialog
+/// within, and its layer no name.
+bool isSheet(const QQuickItem* item) {
+    const QObject* says = attached(item);
+    return says && says->property("role").toInt() == QAccessible::Dialog && item->parentItem() &&
+           item->parentItem()->inherits("QQuickOverlay");
 }
 
 /// Whether an open sheet covers the item.
@@ -46,8 +61,7 @@ bool isBehindSheet(const QQuickItem* item) {
     for (auto popup = popups.rbegin(); popup != popups.rend(); ++popup) {
         if (*popup == item || (*popup)->isAncestorOf(item))
             return false;
-        const QObject* says = attached(*popup);
-        if ((*popup)->isVisible() && says && says->property("role").toInt() == QAccessible::Dialog)
+        if ((*popup)->isVisible() && isSheet(*popup))
             return true;
     }
     return false;
@@ -93,7 +107,7 @@ class AccessibleItem : public QAccessibleObject {
         state.checked = says("checked");
         state.selectable = says("selectable");
         state.selected = says("selected");
-        state.modal = role() == QAccessible::Dialog;
+        state.modal = isSheet(item());
         state.focused = window() && item()->window()->activeFocusItem() == item();
         return state;
     }
@@ -165,9 +179,9 @@ class AccessibleControl : public AccessibleItem, public QAccessibleActionInterfa
 
   private:
     [[nodiscard]] bool isPressable() const {
-        constexpr QAccessible::Role pressable[] = {QAccessible::Button, QAccessible::PageTab,
-                                                   QAccessible::RadioButton, QAccessible::CheckBox,
-                                                   QAccessible::MenuItem};
+        constexpr QAccessible::Role pressable[] = {QAccessible::Button,   QAccessible::ButtonMenu,
+                                                   QAccessible::PageTab,  QAccessible::RadioButton,
+                                                   QAccessible::CheckBox, QAccessible::MenuItem};
         return std::ranges::find(pressable, role()) != std::end(pressable);
     }
 };
@@ -198,8 +212,9 @@ class AccessibleRow : public AccessibleControl {
 
 QAccessibleInterface* accessibleItem(const QString&, QObject* object) {
     auto* item = qobject_cast<QQuickItem*>(object);
-    // Qt's own interface has what a text field needs.
-    if (!item || !attached(item) || item->inherits("QQuickTextInput"))
+    // Qt asks once for each item, before QML has said what it is. Qt's own interface has what a
+    // text field needs.
+    if (!item || !saidOf(item) || item->inherits("QQuickTextInput"))
         return nullptr;
     if (item->inherits("QQuickListView"))
         return new AccessibleList(item);

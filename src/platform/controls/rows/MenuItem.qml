@@ -16,6 +16,8 @@ T.MenuItem {
     leftPadding: Metrics.padding
     rightPadding: Metrics.padding
 
+    Accessible.onPressAction: triggered()
+
     background: RowHighlight {
         roundedBottom: true
         roundedTop: true
