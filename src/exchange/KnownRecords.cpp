@@ -33,6 +33,13 @@ KnownRecords::KnownRecords() : m_database("", SQLite::OPEN_READWRITE | SQLite::O
     m_database.exec("CREATE TABLE known (id BLOB PRIMARY KEY, pk INTEGER, timestamp INTEGER, "
                     "digest INTEGER) WITHOUT ROWID");
     m_database.exec("BEGIN");
+    // Of two stored records of one id the newer is known: the older one loses to whatever comes in,
+    // and stays as it is.
+    m_storedInsertion.emplace(
+        m_database,
+        "INSERT INTO known VALUES (?,?,?,?) ON CONFLICT DO UPDATE SET pk = excluded.pk, "
+        "timestamp = excluded.timestamp, digest = excluded.digest "
+        "WHERE excluded.timestamp > coalesce(timestamp, excluded.timestamp - 1)");
     m_insertion.emplace(m_database, "INSERT OR IGNORE INTO known VALUES (?,?,?,?)");
     m_selection.emplace(m_database, "SELECT pk, timestamp, digest FROM known WHERE id = ?");
     m_update.emplace(m_database, "UPDATE known SET timestamp = ?, digest = ? WHERE id = ?");
@@ -57,14 +64,15 @@ std::uint64_t KnownRecords::digest(std::span<const Value> values) {
     return XXH3_64bits(m_bytes.data(), m_bytes.size());
 }
 
-bool KnownRecords::insert(ObjectID id, std::span<const Value> values, std::uint64_t digest) {
+bool KnownRecords::insert(SQLite::Statement& insertion, ObjectID id, std::span<const Value> values,
+                          std::uint64_t digest) {
     const QByteArray key = keyOf(values);
-    m_insertion->bindNoCopy(1, key.constData(), int(key.size()));
-    m_insertion->bind(2, id);
-    bindTimestamp(*m_insertion, 3, values);
-    m_insertion->bind(4, static_cast<std::int64_t>(digest));
-    const bool isNew = m_insertion->exec() == 1;
-    m_insertion->reset();
+    insertion.bindNoCopy(1, key.constData(), int(key.size()));
+    insertion.bind(2, id);
+    bindTimestamp(insertion, 3, values);
+    insertion.bind(4, static_cast<std::int64_t>(digest));
+    const bool isNew = insertion.exec() == 1;
+    insertion.reset();
     return isNew;
 }
 
@@ -72,7 +80,7 @@ void KnownRecords::addStored(ObjectID id, std::span<const Value> values) {
     if (isAbsent(values[Transaction::Id]))
         ++m_nameless[digest(values)].stored;
     else
-        (void)insert(id, values, digest(values));
+        (void)insert(*m_storedInsertion, id, values, digest(values));
 }
 
 KnownRecords::Verdict KnownRecords::take(ObjectID nextID, std::span<const Value> values,
@@ -83,7 +91,7 @@ KnownRecords::Verdict KnownRecords::take(ObjectID nextID, std::span<const Value>
         Counts& counts = m_nameless[mark];
         return {++counts.taken > counts.stored ? added : same};
     }
-    if (insert(nextID, values, mark))
+    if (insert(*m_insertion, nextID, values, mark))
         return {added};
     if (isOnlyNewOrKnown)
         return {same};

@@ -19,7 +19,7 @@ class KnownRecords {
 
     KnownRecords();
 
-    /// Takes note of a stored record.
+    /// Takes note of a stored record: of two with one id, of the newer.
     void addStored(ObjectID id, std::span<const Value> values);
 
     struct Verdict {
@@ -39,10 +39,12 @@ class KnownRecords {
         qint64 taken = 0;
     };
 
-    [[nodiscard]] bool insert(ObjectID id, std::span<const Value> values, std::uint64_t digest);
+    [[nodiscard]] static bool insert(SQLite::Statement& insertion, ObjectID id,
+                                     std::span<const Value> values, std::uint64_t digest);
     [[nodiscard]] std::uint64_t digest(std::span<const Value> values);
 
     SQLite::Database m_database;
+    std::optional<SQLite::Statement> m_storedInsertion;
     std::optional<SQLite::Statement> m_insertion;
     std::optional<SQLite::Statement> m_selection;
     std::optional<SQLite::Statement> m_update;

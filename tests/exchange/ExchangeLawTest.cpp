@@ -1,5 +1,6 @@
 #include "Device.h"
 
+#include <array>
 #include <map>
 #include <random>
 #include <set>
@@ -153,6 +154,21 @@ TEST_F(ExchangeLaw, DevicesThatExchangeInAnyOrderEndAlike) {
                 ASSERT_TRUE(other.at(id) == record || disputed.contains(id));
         }
         ASSERT_TRUE(hasConflicts || disputed.empty());
+    }
+}
+
+TEST_F(ExchangeLaw, TwoRecordsOfOneIdStayTwo) {
+    for (const auto& times : {std::array{1, 5}, std::array{5, 1}, std::array{5, 5}}) {
+        Device device(QStringLiteral("%1-%2").arg(times[0]).arg(times[1]));
+        std::vector<Record> records(2, someRecord(random));
+        for (const int i : {0, 1}) {
+            records[i][Transaction::Id] = QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11);
+            records[i][Transaction::Timestamp] = Instant(std::chrono::milliseconds(times[i]));
+            records[i][Transaction::Amount] = i;
+        }
+        device.add(records);
+        EXPECT_EQ(device.take(device.file()).changed, 0);
+        EXPECT_TRUE(device.records() == records);
     }
 }
 
