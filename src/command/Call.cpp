@@ -14,6 +14,16 @@ const QString formatName = QStringLiteral("format");
 const QString storeName = QStringLiteral("store");
 const QString helpName = QStringLiteral("help");
 
+const QStringList& frameWords() {
+    static const QStringList words = [] {
+        QStringList list;
+        for (const NamedTimeFrame& frame : namedTimeFrames)
+            list.append(QString::fromLatin1(frame.word));
+        return list;
+    }();
+    return words;
+}
+
 [[noreturn]] void refuse(const QString& message) {
     throw CommandFailure{message, ExitStatus::wrongCall};
 }
@@ -21,7 +31,7 @@ const QString helpName = QStringLiteral("help");
 } // namespace
 
 QCommandLineOption frameOption(const QString& meaning) {
-    return {frameName, meaning, QStringLiteral("current|3|12")};
+    return {frameName, meaning, frameWords().join(u'|')};
 }
 
 QCommandLineOption formatOption(const QStringList& formats) {
@@ -81,11 +91,9 @@ QString Call::choice(const char* option, const QStringList& choices) const {
 }
 
 std::optional<TimeFrame> Call::frame() const {
-    static const QStringList frames{QStringLiteral("current"), QStringLiteral("3"),
-                                    QStringLiteral("12")};
     if (!m_parser.isSet(frameName))
         return std::nullopt;
-    return static_cast<TimeFrame>(frames.indexOf(choice("frame", frames))) + 1;
+    return namedTimeFrames[frameWords().indexOf(choice("frame", frameWords()))].value;
 }
 
 QString Call::operand() const {

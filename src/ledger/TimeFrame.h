@@ -17,13 +17,15 @@ struct NamedTimeFrame {
     /// What it is called in a choice, and above its chart.
     const char* label;
     const char* title;
+    /// What a command calls it.
+    const char* word;
 };
 
 /// The time frames that the user can choose, the shortest first.
 inline constexpr NamedTimeFrame namedTimeFrames[] = {
-    {1, 1, "Current", "Current Month"},
-    {2, 3, "3 Months", "3 Months"},
-    {3, 12, "12 Months", "12 Months"},
+    {1, 1, "Current", "Current Month", "current"},
+    {2, 3, "3 Months", "3 Months", "3"},
+    {3, 12, "12 Months", "12 Months", "12"},
 };
 
 /// The one of them that `timeFrame` is; null for any other value.
