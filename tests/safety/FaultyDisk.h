@@ -24,11 +24,16 @@ class FaultyDisk {
             faulty.xDelete = [](sqlite3_vfs* disk, const char* name, int) {
                 return due() ? failure() : s_disk->xDelete(disk, name, 0);
             };
+            faulty.xSleep = [](sqlite3_vfs* disk, int microseconds) {
+                return sleep ? sleep(microseconds) : s_disk->xSleep(disk, microseconds);
+            };
             sqlite3_vfs_register(&faulty, 1);
         }
         s_code = code;
         s_left = call;
     }
+    /// What happens in place of a pause, if it is set.
+    static inline std::function<int(int microseconds)> sleep;
     [[nodiscard]] static bool hasFailed() { return s_left <= 0; }
 
   private:

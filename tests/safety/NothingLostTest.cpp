@@ -2,6 +2,7 @@
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
 #include "model/PersistenceController.h"
+#include "platform/objectstore/BulkWrite.h"
 #include "platform/objectstore/file/KeptCopies.h"
 #include "support/Book.h"
 #include "support/FastQueue.h"
@@ -269,6 +270,29 @@ TEST_F(NothingLost, WhenTwoProcessesWrite) {
         EXPECT_EQ(both.said, "");
         EXPECT_EQ(stored().size(), 30U);
     }
+}
+
+TEST_F(NothingLost, WhileAnImportTakesItsTime) {
+    Book book({{5}});
+    Store other(store.fileName(), Transaction::entity());
+    auto import = std::make_optional<BulkWrite>(other);
+    import->insert(book.all()[0]->values());
+    int pauses = 0;
+    FaultyDisk::sleep = [&](int microseconds) {
+        if (++pauses == 60'000'000 / microseconds)
+            import->commit(), import.reset();
+        return microseconds;
+    };
+    addAndSave(book, {7});
+    EXPECT_FALSE(import) << "the save has waited for a minute";
+    EXPECT_EQ(book.amounts(), (Amounts{5, 5, 7}));
+
+    pauses = 0;
+    SQLite::Database stranger(store.fileName().toStdString(), SQLite::OPEN_READWRITE);
+    stranger.exec("BEGIN IMMEDIATE");
+    EXPECT_THROW(addAndSave(book, {9}), StoreError) << "not everybody is waited for";
+    EXPECT_LT(pauses, 10000);
+    FaultyDisk::sleep = {};
 }
 
 TEST_F(NothingLost, WhenTheFileIsReplaced) {

@@ -14,6 +14,7 @@ BulkWrite::BulkWrite(Store& store) : m_store(store) {
         m_updating = store.m_connection->statements().use(store.m_table.update);
         m_transaction.emplace(store.m_connection->database(),
                               SQLite::TransactionBehavior::IMMEDIATE);
+        m_longWrite.emplace(m_store.m_path);
         m_nextID = store.unusedID();
     });
 }

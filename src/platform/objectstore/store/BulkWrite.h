@@ -1,13 +1,14 @@
 #pragma once
 
 #include "Store.h"
+#include "platform/objectstore/file/LongWrite.h"
 
 #include <span>
 
 namespace kovamo {
 
 /// Many records written in one transaction of a store, without an object for each: all are stored
-/// by commit(), none if the value is destroyed before. Until then no other process can write,
+/// by commit(), none if the value is destroyed before. Until then all others that write wait,
 /// and what the store reads has them in it. All failures are thrown as StoreError.
 class BulkWrite {
   public:
@@ -33,6 +34,8 @@ class BulkWrite {
     Store& m_store;
     StatementCache::Use m_inserting;
     StatementCache::Use m_updating;
+    // Goes after the transaction, and comes after it has begun: else two would wait for each other.
+    std::optional<LongWrite> m_longWrite;
     std::optional<SQLite::Transaction> m_transaction;
     ObjectID m_nextID = 0;
 };

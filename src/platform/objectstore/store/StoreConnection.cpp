@@ -1,6 +1,7 @@
 #include "StoreConnection.h"
 
 #include "Guarded.h"
+#include "platform/objectstore/file/LongWrite.h"
 #include "platform/objectstore/file/Soundness.h"
 #include "platform/objectstore/file/WriteAheadLog.h"
 
@@ -38,8 +39,8 @@ StoreConnection::StoreConnection(QString path, const EntityTable& table, StoreAc
 void StoreConnection::open() {
     m_file = identityOf(m_path);
     m_database = std::make_unique<SQLite::Database>(m_path.toStdString(),
-                                                    SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX,
-                                                    busyTimeoutMilliseconds);
+                                                    SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
+    waitForOthers();
     m_statements = std::make_unique<StatementCache>(*m_database);
     // Otherwise SQLite takes a misspelt column in double quotes for a text constant.
     sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
@@ -87,6 +88,26 @@ void StoreConnection::close() {
     m_database->setBusyTimeout(0);
     m_database->exec("PRAGMA wal_checkpoint(TRUNCATE)");
     seal(*m_database, m_path);
+}
+
+void StoreConnection::waitForOthers() {
+    const auto wait = [](void* connection, int attempt) -> int {
+        return static_cast<StoreConnection*>(connection)->waitForOthers(attempt);
+    };
+    sqlite3_busy_handler(m_database->getHandle(), wait, this);
+}
+
+bool StoreConnection::waitForOthers(int attempt) {
+    constexpr int pause = 2;
+    constexpr int patience = busyTimeoutMilliseconds / pause;
+    if (attempt == 0)
+        m_lastAttempt = patience;
+    if (attempt >= m_lastAttempt && LongWrite::isUnderWay(m_path))
+        m_lastAttempt = attempt + patience;
+    if (attempt >= m_lastAttempt)
+        return false;
+    sqlite3_sleep(pause);
+    return true;
 }
 
 void StoreConnection::refuseNewer() const {

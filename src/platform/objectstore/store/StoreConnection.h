@@ -44,6 +44,9 @@ class StoreConnection {
 
   private:
     void open();
+    void waitForOthers();
+    /// Asked by SQLite, again and again, while somebody else writes: whether to go on trying.
+    [[nodiscard]] bool waitForOthers(int attempt);
     void refuseNewer() const;
     void refuseDamaged() const;
     [[nodiscard]] QString wrongRecord() const;
@@ -62,6 +65,7 @@ class StoreConnection {
     bool m_hasLeft = false;
     bool m_wasWritten = false;
     int m_lastDataVersion = 0;
+    int m_lastAttempt = 0;
 };
 
 } // namespace kovamo
