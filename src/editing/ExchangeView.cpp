@@ -146,7 +146,7 @@ ExchangeView::Page ExchangeView::planPage(const QString& path) {
     if (plan.faultCount > 0)
         page.lines.append(counted(tr("Lines that cannot be read"), plan.faultCount));
     for (const LineFault& fault : plan.faults)
-        page.lines.append(tr("Line %1: %2").arg(numberText(fault.line), fault.text));
+        page.details.append(tr("Line %1: %2").arg(numberText(fault.line), fault.text));
     if (!plan.isRefused && plan.added + plan.changed > 0) {
         page.action = tr("Import");
         page.next = {[this, path] { import(path); }};
@@ -198,6 +198,7 @@ ExchangeView::Page ExchangeView::copyPage(const QString& copyPath, const QString
             .lines = {counted(tr("Transactions in the copy"), countOf(copyPath).value_or(0)),
                       counted(tr("Transactions now"), countOf(m_storePath).value_or(0)),
                       tr("What is stored now is set aside; you can go back to it as to a copy.")},
+            .details = {},
             .choices = {},
             .action = tr("Go Back"),
             .next = {[=, this] { goBack(copyPath, day); }}};

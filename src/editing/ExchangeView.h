@@ -22,6 +22,8 @@ class ExchangeView : public QObject {
     Q_PROPERTY(QString title READ title NOTIFY changed)
     /// The text, one paragraph each.
     Q_PROPERTY(QStringList lines READ lines NOTIFY changed)
+    /// What is wrong with single lines of a file.
+    Q_PROPERTY(QStringList details READ details NOTIFY changed)
     /// The rows to choose from, if any.
     Q_PROPERTY(QStringList choices READ choices NOTIFY changed)
     /// The label of the button that goes on; empty where there is none.
@@ -37,6 +39,7 @@ class ExchangeView : public QObject {
     [[nodiscard]] bool isBusy() const { return m_worker != nullptr; }
     [[nodiscard]] QString title() const { return m_page.title; }
     [[nodiscard]] QStringList lines() const { return m_page.lines; }
+    [[nodiscard]] QStringList details() const { return m_page.details; }
     [[nodiscard]] QStringList choices() const { return m_page.choices; }
     [[nodiscard]] QString action() const { return m_page.action; }
 
@@ -69,6 +72,7 @@ class ExchangeView : public QObject {
     struct Page {
         QString title;
         QStringList lines{};
+        QStringList details{};
         QStringList choices{};
         QString action{};
         std::vector<Work> next{};

@@ -7,7 +7,8 @@ import Kovamo.Forms
 // ComponentBehavior: Bound does not allow; so the ids of this file are used unqualified.
 // qmllint disable unqualified
 
-/*! What an export, an import or a copy does, and the button that does it. */
+/*! What an export, an import or a copy does, the button that does it, and below it, so that the button
+    is in sight on every screen, what is wrong with single lines. */
 NavigationStack {
     id: screen
 
@@ -16,35 +17,8 @@ NavigationStack {
     initialPage: GroupedForm {
         navigationTitle: screen.exchange.title
 
-        FormSection {
-            visible: screen.exchange.lines.length > 0
-
-            Repeater {
-                model: screen.exchange.lines
-
-                FormRow {
-                    id: row
-
-                    required property string modelData
-
-                    Accessible.name: modelData
-                    Accessible.role: Accessible.StaticText
-                    activeFocusOnTab: false
-                    contentHeight: words.implicitHeight
-
-                    PlainText {
-                        id: words
-
-                        Accessible.ignored: true
-                        anchors.verticalCenter: parent.verticalCenter
-                        elide: Text.ElideNone
-                        maximumLineCount: 100
-                        text: row.modelData
-                        width: parent.width
-                        wrapMode: Text.Wrap
-                    }
-                }
-            }
+        Words {
+            lines: screen.exchange.lines
         }
         FormSection {
             visible: screen.exchange.choices.length > 0
@@ -58,22 +32,67 @@ NavigationStack {
 
                     text: modelData
 
+                    Component.onCompleted: if (index === 0)
+                        focus = true
                     onClicked: screen.exchange.choose(index)
                 }
             }
         }
         FormSection {
             FormButton {
-                focus: true
+                id: proceed
+
                 text: screen.exchange.action
                 visible: text !== ""
 
                 onClicked: screen.exchange.proceed()
+                onVisibleChanged: (visible ? proceed : leave).focus = true
             }
             FormButton {
+                id: leave
+
+                focus: true
                 text: screen.exchange.action !== "" || screen.exchange.isBusy ? qsTr("Cancel") : qsTr("Done")
 
                 onClicked: screen.exchange.dismiss()
+            }
+        }
+        Words {
+            lines: screen.exchange.details
+        }
+    }
+
+    component Words: FormSection {
+        id: section
+
+        required property list<string> lines
+
+        visible: lines.length > 0
+
+        Repeater {
+            model: section.lines
+
+            FormRow {
+                id: row
+
+                required property string modelData
+
+                Accessible.name: modelData
+                Accessible.role: Accessible.StaticText
+                activeFocusOnTab: false
+                contentHeight: words.implicitHeight
+
+                PlainText {
+                    id: words
+
+                    Accessible.ignored: true
+                    anchors.verticalCenter: parent.verticalCenter
+                    elide: Text.ElideNone
+                    maximumLineCount: 100
+                    text: row.modelData
+                    width: parent.width
+                    wrapMode: Text.Wrap
+                }
             }
         }
     }

@@ -9,7 +9,9 @@ namespace {
 /// The sheet's title, lines and choices once nothing is under way.
 std::string said(const ExchangeView& view) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return !view.isBusy(); }, 30000));
-    return (QStringList(view.title()) + view.lines() + view.choices()).join(u'\n').toStdString();
+    return (QStringList(view.title()) + view.lines() + view.details() + view.choices())
+        .join(u'\n')
+        .toStdString();
 }
 
 TEST(ExchangeView, TakesOutBringsInAndGoesBack) {

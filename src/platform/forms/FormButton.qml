@@ -9,7 +9,7 @@ Pressable {
     readonly property bool isFirst: Positioner.isFirstItem
     readonly property bool isLast: Positioner.isLastItem
 
-    implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight)
+    implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight + (caption.lineCount > 1 ? Metrics.step * 2 : 0))
     opacity: 1
     width: parent ? parent.width : implicitWidth
 
@@ -35,7 +35,9 @@ Pressable {
         color: button.enabled ? SystemColors.accent : SystemColors.tertiaryLabel
         font: TextStyles.headline
         horizontalAlignment: Text.AlignHCenter
+        maximumLineCount: 3
         text: button.text
         verticalAlignment: Text.AlignVCenter
+        wrapMode: Text.Wrap
     }
 }
