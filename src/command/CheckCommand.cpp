@@ -1,9 +1,12 @@
 #include "Call.h"
 #include "Commands.h"
 #include "Output.h"
-#include "TransactionCheck.h"
+#include "ledger/TransactionCheck.h"
 #include "model/Transaction.h"
 #include "platform/objectstore/file/StoreError.h"
+
+#include <QSet>
+#include <QUuid>
 
 namespace kovamo {
 
@@ -14,11 +17,25 @@ struct Tally {
     std::int64_t wrong = 0;
 };
 
+/// What names a record to its user: the identity and the title, in one line.
+QString nameOf(ObjectID objectID, StoreInspection::Record record) {
+    const auto* id = valueOf<QUuid>(record, Transaction::Id);
+    const auto* title = valueOf<QString>(record, Transaction::Title);
+    return (id ? id->toString(QUuid::WithoutBraces) : u"record " + QString::number(objectID)) +
+           (title ? u" \"" + inOneLine(*title) + u'"' : QString());
+}
+
 Tally checkRecords(StoreInspection& store) {
-    TransactionCheck check;
+    const TransactionCheck check;
+    QSet<QUuid> ids;
     Tally tally;
     store.forEach([&](ObjectID objectID, StoreInspection::Record record) {
-        const QStringList faults = check.faultsOf(record);
+        QStringList faults = check.faultsOf(record);
+        if (const auto* id = valueOf<QUuid>(record, Transaction::Id)) {
+            if (ids.contains(*id))
+                faults.append(QStringLiteral("another record has its id"));
+            ids.insert(*id);
+        }
         ++tally.records;
         tally.wrong += faults.isEmpty() ? 0 : 1;
         if (!faults.isEmpty())

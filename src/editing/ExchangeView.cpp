@@ -2,6 +2,7 @@
 
 #include "exchange/Export.h"
 #include "exchange/Import.h"
+#include "ledger/TransactionCheck.h"
 #include "model/Transaction.h"
 #include "platform/foundation/Calendar.h"
 #include "platform/foundation/Formatters.h"
@@ -46,6 +47,11 @@ QString dayOf(const QString& name) {
 ImportOptions optionsFor(const QString& path, const std::atomic<bool>& isStopped) {
     ImportOptions options;
     options.format = formatOfFile(path).value_or(ExchangeFormat::csv);
+    // A command takes in what no screen can show, too; here the screens would end over it.
+    options.objection = [check = TransactionCheck()](std::span<const Value> values) {
+        const std::vector<std::optional<Value>> record(values.begin(), values.end());
+        return check.faultsOf(record).join(QStringLiteral("; "));
+    };
     options.progress = [&isStopped](qint64) { return !isStopped; };
     return options;
 }

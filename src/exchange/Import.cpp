@@ -106,6 +106,9 @@ bool Pass::readNext(std::vector<Value>& values) {
 }
 
 void Pass::take(std::span<const Value> values) {
+    if (const QString why = m_options.objection ? m_options.objection(values) : QString();
+        !why.isEmpty())
+        throw Fault{why};
     const auto [standing, id] = m_known.take(m_nextID, values, m_reader->rounding() != nullptr);
     switch (standing) {
     case KnownRecords::Standing::added:

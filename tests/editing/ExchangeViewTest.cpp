@@ -48,6 +48,14 @@ TEST(ExchangeView, TakesOutBringsInAndGoesBack) {
     view.importFrom(World::folder() + u"/none.csv");
     EXPECT_EQ(said(view), "Import\nnone.csv\nNo such file or directory");
     EXPECT_EQ(view.action(), QString());
+    ASSERT_TRUE(more.open(QFile::WriteOnly));
+    more.write("id,date,title,emoji,amount,kind,timestamp\n,2024-05-02,Rent,🏠,7,spending,\n"
+               ",,Rent,🏠,7,spending,\n,2024-05-02,,🏠,7,spending,\n");
+    more.close();
+    view.importFrom(file);
+    EXPECT_EQ(said(view), "Import\nout.csv\nNew: 1\nChanged: 0\nAlready here: 0\n"
+                          "Lines that cannot be read: 2\nLine 3: it has no startDate; it has no "
+                          "endDate\nLine 4: it has no title");
     view.importFrom(file);
     view.dismiss();
     EXPECT_FALSE(view.isPresented() || view.isBusy());

@@ -19,7 +19,10 @@ std::optional<CsvHeader> ownHeader(std::span<const Cell> fields) {
 }
 
 CsvRecordReader::CsvRecordReader(std::unique_ptr<LineReader> lines, CsvHeader header)
-    : m_lines(std::move(lines)), m_records(*m_lines, ','), m_header(std::move(header)) {}
+    : m_lines(std::move(lines)), m_records(*m_lines, ','), m_header(std::move(header)),
+      m_hasEnds(std::ranges::count(m_header, std::optional(Column::until)) +
+                    std::ranges::count(m_header, std::optional(Column::endDate)) >
+                0) {}
 
 bool CsvRecordReader::next(std::vector<Value>& values) {
     if (!m_records.next())
@@ -32,6 +35,8 @@ bool CsvRecordReader::next(std::vector<Value>& values) {
     for (std::size_t at = 0; at < fields.size(); ++at)
         if (const auto column = m_header[at])
             m_row[*column] = fields[at];
+    if (!m_hasEnds)
+        endWhereItBegins(m_row);
     readRow(m_row, values, m_zone);
     return true;
 }

@@ -26,6 +26,7 @@ class CsvRecordReader : public RecordReader {
     std::unique_ptr<LineReader> m_lines;
     CsvReader m_records;
     CsvHeader m_header;
+    bool m_hasEnds;
     ZoneOffset m_zone;
     Row m_row;
 };

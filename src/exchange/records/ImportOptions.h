@@ -1,9 +1,11 @@
 #pragma once
 
 #include "ExchangeFormat.h"
+#include "platform/objectstore/Value.h"
 
 #include <QMap>
 #include <functional>
+#include <span>
 
 namespace kovamo {
 
@@ -20,6 +22,8 @@ struct ImportOptions {
     QString dateFormat{};
     /// The emoji of the records of a statement.
     QString emoji = QStringLiteral("🏦");
+    /// What keeps a record from coming in, in a few words; empty where nothing does.
+    std::function<QString(std::span<const Value>)> objection{};
     /// Called now and then with the number of bytes read; false stops the import.
     std::function<bool(qint64 bytes)> progress{};
 };

@@ -43,6 +43,8 @@ void JsonReader::read(std::string_view line) {
     const QJsonObject object = document.object();
     for (std::size_t column = 0; column < columnNames.size(); ++column)
         fill(m_row[Column(column)], object.value(latin1(columnNames[column])), columnNames[column]);
+    if (!object.contains(QLatin1String("until")) && !object.contains(QLatin1String("endDate")))
+        endWhereItBegins(m_row);
 }
 
 bool JsonReader::next(std::vector<Value>& values) {

@@ -105,6 +105,12 @@ void fillRow(Row& row, std::span<const Value> values, ZoneOffset& zone) {
     }
 }
 
+void endWhereItBegins(Row& row) {
+    using enum Column;
+    if (!row[recurs].isPresent)
+        row[endDate] = row[date];
+}
+
 void readRow(const Row& row, std::vector<Value>& values, ZoneOffset& zone) {
     using enum Column;
     values.assign(Transaction::entity().attributes.size(), {});

@@ -70,6 +70,9 @@ class Row {
 /// Writes the values of a transaction into `row`.
 void fillRow(Row& row, std::span<const Value> values, ZoneOffset& zone);
 
+/// Lets a one-off end where it begins, for a file that says nothing of ends.
+void endWhereItBegins(Row& row);
+
 /// Reads the values of a transaction from `row`. Throws a Fault.
 void readRow(const Row& row, std::vector<Value>& values, ZoneOffset& zone);
 

@@ -1,7 +1,6 @@
 #include "TransactionCheck.h"
 
-#include "Output.h"
-#include "ledger/Recurrence.h"
+#include "Recurrence.h"
 #include "model/RecurringType.h"
 
 #include <utility>
@@ -9,13 +8,6 @@
 namespace kovamo {
 
 namespace {
-
-/// The value of an attribute; nothing where it is absent or wrong.
-template<typename T>
-const T* valueOf(StoreInspection::Record record, Transaction::Attribute attribute) {
-    const std::optional<Value>& value = record[attribute];
-    return value ? std::get_if<T>(&*value) : nullptr;
-}
 
 const QString& attributeName(std::size_t attribute) {
     return Transaction::entity().attributes[attribute].name;
@@ -26,7 +18,7 @@ const QString& attributeName(std::size_t attribute) {
 TransactionCheck::TransactionCheck()
     : m_slotsOfFrames{monthSlots(1), monthSlots(2), monthSlots(3)} {}
 
-QStringList TransactionCheck::faultsOf(StoreInspection::Record record) {
+QStringList TransactionCheck::faultsOf(StoreInspection::Record record) const {
     QStringList faults;
     for (std::size_t i = 0; i < record.size(); ++i)
         if (!record[i])
@@ -39,11 +31,6 @@ QStringList TransactionCheck::faultsOf(StoreInspection::Record record) {
     if (const auto* amount = valueOf<std::int32_t>(record, Transaction::Amount);
         amount && *amount < 0)
         faults.append(QStringLiteral("its amount is negative: %1").arg(*amount));
-    if (const auto* id = valueOf<QUuid>(record, Transaction::Id)) {
-        if (m_ids.contains(*id))
-            faults.append(QStringLiteral("another record has its id"));
-        m_ids.insert(*id);
-    }
     if (const auto* recurs = valueOf<bool>(record, Transaction::IsRecurring); recurs && *recurs)
         checkRecurrence(record, faults);
     return faults;
@@ -66,13 +53,6 @@ void TransactionCheck::checkRecurrence(StoreInspection::Record record, QStringLi
                               .arg(slots.size())
                               .arg(sum));
     }
-}
-
-QString nameOf(ObjectID objectID, StoreInspection::Record record) {
-    const auto* id = valueOf<QUuid>(record, Transaction::Id);
-    const auto* title = valueOf<QString>(record, Transaction::Title);
-    return (id ? id->toString(QUuid::WithoutBraces) : u"record " + QString::number(objectID)) +
-           (title ? u" \"" + inOneLine(*title) + u'"' : QString());
 }
 
 } // namespace kovamo
