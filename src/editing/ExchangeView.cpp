@@ -114,6 +114,8 @@ void ExchangeView::exportTo(const QString& path) {
         const auto format = formatOfFile(path).value_or(ExchangeFormat::csv);
         Store store(m_storePath, Transaction::entity(), Store::Access::read);
         QSaveFile file(path);
+        // A sandbox lets the chosen file be written, and none be made beside it.
+        file.setDirectWriteFallback(true);
         const auto count =
             file.open(QSaveFile::WriteOnly)
                 ? exportRecords(store,

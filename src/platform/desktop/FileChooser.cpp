@@ -21,6 +21,11 @@ const QString& request() {
     return name;
 }
 
+const QString& response() {
+    static const auto name = QStringLiteral("Response");
+    return name;
+}
+
 /// The window that the dialog belongs to, as the portal names it. Qt has no name for one on
 /// Wayland.
 QString parentWindow() {
@@ -30,6 +35,10 @@ QString parentWindow() {
 }
 
 } // namespace
+
+FileChooser::~FileChooser() {
+    takeBack();
+}
 
 void FileChooser::open(const QString& title) {
     ask(false, title, {});
@@ -45,15 +54,13 @@ void FileChooser::ask(bool saves, const QString& title, const QString& name) {
         Q_EMIT unavailable(saves, title, name);
         return;
     }
-    const auto response = QStringLiteral("Response");
-    if (!m_request.isEmpty())
-        bus.disconnect(portal(), m_request, request(), response, this, SLOT(answer(QDBusMessage)));
+    takeBack();
     m_saves = saves;
     // The answer may come before the call returns: its path is known from the token.
     const auto token = u"kovamo" + QUuid::createUuid().toString(QUuid::Id128);
     const QString sender = bus.baseService().mid(1).replace(u'.', u'_');
     m_request = u"/org/freedesktop/portal/desktop/request/" + sender + u'/' + token;
-    bus.connect(portal(), m_request, request(), response, this, SLOT(answer(QDBusMessage)));
+    bus.connect(portal(), m_request, request(), response(), this, SLOT(answer(QDBusMessage)));
     auto call = QDBusMessage::createMethodCall(
         portal(), QStringLiteral("/org/freedesktop/portal/desktop"),
         QStringLiteral("org.freedesktop.portal.FileChooser"),
@@ -71,9 +78,21 @@ void FileChooser::ask(bool saves, const QString& title, const QString& name) {
     });
 }
 
-void FileChooser::answer(const QDBusMessage& response) {
+void FileChooser::takeBack() {
+    if (m_request.isEmpty())
+        return;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.disconnect(portal(), m_request, request(), response(), this, SLOT(answer(QDBusMessage)));
+    // Otherwise its dialog stays open, and nobody hears what is chosen there.
+    bus.send(
+        QDBusMessage::createMethodCall(portal(), m_request, request(), QStringLiteral("Close")));
+    m_request.clear();
+}
+
+void FileChooser::answer(const QDBusMessage& message) {
+    takeBack();
     constexpr uint chosen = 0;
-    const QVariantList arguments = response.arguments();
+    const QVariantList arguments = message.arguments();
     if (arguments.size() != 2 || arguments[0].toUInt() != chosen)
         return;
     const auto results = qdbus_cast<QVariantMap>(arguments[1]);

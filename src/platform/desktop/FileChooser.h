@@ -15,6 +15,8 @@ class FileChooser : public QObject {
 
   public:
     explicit FileChooser(QObject* parent = nullptr) : QObject(parent) {}
+    /// Takes back the question that is open.
+    ~FileChooser() override;
 
     /// Asks for a file to read.
     Q_INVOKABLE void open(const QString& title);
@@ -35,9 +37,10 @@ class FileChooser : public QObject {
 
   private:
     void ask(bool saves, const QString& title, const QString& name);
+    void takeBack();
 
   private Q_SLOTS:
-    void answer(const QDBusMessage& response);
+    void answer(const QDBusMessage& message);
 
   private:
     bool m_saves = false;
