@@ -3,6 +3,7 @@ _kovamo() {
     local cur prev words cword command=
     _init_completion || return
     ((cword > 1)) && command=${words[1]}
+    [[ $command == -* ]] && command=
     case $prev in
         --appearance) COMPREPLY=($(compgen -W 'light dark' -- "$cur")) ;;
         --frame) COMPREPLY=($(compgen -W 'current 3 12' -- "$cur")) ;;
@@ -28,7 +29,7 @@ _kovamo() {
             import) options+=' --format --dry-run --skip-bad --columns --date-format --emoji' ;;
             balance | list) options+=' --format --frame' ;;
             check | copies | restore) ;;
-            *) options='--demo --appearance --pictures --version --help' ;;
+            *) options='--new-transaction --all-transactions --demo --appearance --pictures --version --help' ;;
         esac
         COMPREPLY=($(compgen -W "$options" -- "$cur"))
         return

@@ -9,6 +9,8 @@ complete -c kovamo -n "$no_command" -a list -d 'Print the transactions of a time
 complete -c kovamo -n "$no_command" -a check -d 'Look for damage'
 complete -c kovamo -n "$no_command" -a copies -d 'List the copies of the store'
 complete -c kovamo -n "$no_command" -a restore -d 'Go back to a copy'
+complete -c kovamo -n "$no_command" -l new-transaction -d 'Open the form for a new transaction'
+complete -c kovamo -n "$no_command" -l all-transactions -d 'Open the list of all transactions'
 complete -c kovamo -n "$no_command" -l demo -d 'Show sample data'
 complete -c kovamo -n "$no_command" -l appearance -x -a 'light dark' -d 'Look like this'
 complete -c kovamo -n "$no_command" -l pictures -r -d 'Draw every screen into this folder'

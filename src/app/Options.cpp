@@ -4,6 +4,8 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QUrl>
 
 namespace kovamo {
 
@@ -18,6 +20,11 @@ struct CommandLine {
             QStringLiteral("Will you be in the black this month, in three months, in a year?"));
         parser.addOptions(
             {newTransaction, allTransactions, demo, appearance, pictures, version, help});
+        parser.addPositionalArgument(
+            QStringLiteral("FILE"),
+            QStringLiteral("A file of records or a bank's statement, as CSV or JSON: shows what it "
+                           "would bring, in the app that runs if one does."),
+            QStringLiteral("[FILE]"));
     }
 
     QCommandLineOption newTransaction{
@@ -51,6 +58,12 @@ std::optional<ColorScheme> scheme(const QString& name) {
     return std::nullopt;
 }
 
+/// The absolute path of a file that is named by its path or, as some launchers do, by its address.
+QString pathNamed(const QString& operand) {
+    const bool isAddress = operand.startsWith(u"file://");
+    return QFileInfo(isAddress ? QUrl(operand).toLocalFile() : operand).absoluteFilePath();
+}
+
 } // namespace
 
 Options parsedOptions(const QStringList& arguments) {
@@ -61,9 +74,9 @@ Options parsedOptions(const QStringList& arguments) {
         return options;
     }
     if (line.parser.isSet(line.allTransactions))
-        options.action = StartAction::allTransactions;
+        options.start.action = StartAction::allTransactions;
     if (line.parser.isSet(line.newTransaction))
-        options.action = StartAction::newTransaction;
+        options.start.action = StartAction::newTransaction;
     options.isDemo = line.parser.isSet(line.demo);
     options.wantsVersion = line.parser.isSet(line.version);
     options.wantsHelp = line.parser.isSet(line.help);
@@ -74,8 +87,14 @@ Options parsedOptions(const QStringList& arguments) {
         if (!options.appearance)
             options.error = QStringLiteral("The appearance is light or dark.");
     }
-    if (const QStringList rest = line.parser.positionalArguments(); !rest.isEmpty())
-        options.error = u"Not understood: " + rest.join(u' ');
+    const QStringList operands = line.parser.positionalArguments();
+    if (operands.size() > 1)
+        options.error = u"Not understood: " + operands.mid(1).join(u' ');
+    if (operands.isEmpty())
+        return options;
+    options.start.file = pathNamed(operands.first());
+    if (!QFileInfo(options.start.file).isFile())
+        options.error = u"Neither a command nor a file: " + operands.first();
     return options;
 }
 

@@ -16,8 +16,8 @@ struct Options {
     std::optional<ColorScheme> appearance;
     /// A folder to draw pictures of all screens into, in place of showing them.
     std::optional<QString> pictures;
-    /// What to open over the main screen.
-    StartAction action = StartAction::none;
+    /// What to open over the main screen, and what is to come in.
+    Start start{};
     /// Only to say which version this is.
     bool wantsVersion = false;
     /// Only to explain the options.

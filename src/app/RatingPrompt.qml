@@ -1,9 +1,9 @@
 import Kovamo.App
 import Kovamo.Engagement
 
-/*! The rating prompt, which waits while one of the main screen's sheets is up. */
+/*! The rating prompt, which waits while a sheet is up. */
 ReviewPrompt {
     required property RootState root
 
-    sheetPresented: root.content.showAddTransaction || root.content.showTransactions
+    sheetPresented: root.content.isCovered
 }

@@ -37,11 +37,13 @@ QString RootView::onboardingFinishedKey() {
     return QStringLiteral("onboardingFinished");
 }
 
-void RootView::perform(StartAction action) {
-    if (!m_onboardingFinished || m_content.showAddTransaction() || m_content.showTransactions())
-        return;
-    m_content.setShowAddTransaction(action == StartAction::newTransaction);
-    m_content.setShowTransactions(action == StartAction::allTransactions);
+void RootView::perform(const Start& start) {
+    if (m_onboardingFinished && !m_content.isCovered()) {
+        m_content.setShowAddTransaction(start.action == StartAction::newTransaction);
+        m_content.setShowTransactions(start.action == StartAction::allTransactions);
+    }
+    if (!start.file.isEmpty())
+        m_content.importFrom(start.file);
 }
 
 bool RootView::isMirrored() {

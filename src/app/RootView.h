@@ -34,9 +34,10 @@ class RootView : public QObject {
     [[nodiscard]] ContentView* content() { return &m_content; }
     [[nodiscard]] WayBack* wayBack() const { return m_wayBack; }
 
-    /// Opens what a start of the app asks for; nothing before the onboarding is finished or while a
-    /// sheet is open, for what is typed there is not to be lost.
-    void perform(StartAction action);
+    /// Does what a start of the app asks for. A file comes in over an open sheet, and once the
+    /// onboarding is finished; of the screens none opens before or over a sheet, for what is typed
+    /// there is not to be lost.
+    void perform(const Start& start);
 
     /// The key of the preferences' flag that the onboarding was finished.
     [[nodiscard]] static QString onboardingFinishedKey();

@@ -19,7 +19,8 @@ namespace {
 /// Longer than a start takes on a slow and busy device: two windows are worse than a late one.
 constexpr int patience = 10000;
 constexpr int pause = 20;
-constexpr int longestLine = 4096;
+/// The system's longest path, each of its bytes written as three, and as much again.
+constexpr int longestLine = 6 * 4096;
 constexpr const char* tokenVariable = "XDG_ACTIVATION_TOKEN";
 
 /// Where the processes for a data folder and a display meet.
@@ -33,7 +34,7 @@ QString meetingPlace(const QString& folder) {
 
 } // namespace
 
-SoleInstance::SoleInstance(const QString& folder, StartAction action)
+SoleInstance::SoleInstance(const QString& folder, const Start& start)
     : m_path(meetingPlace(folder)) {
     // The other process may be starting or ending: try both, to take its place and to ask it.
     for (const QDeadlineTimer deadline(patience); !deadline.hasExpired(); QThread::msleep(pause)) {
@@ -47,7 +48,7 @@ SoleInstance::SoleInstance(const QString& folder, StartAction action)
         }
         // If the folder cannot hold a lock file, go on without looking for other processes.
         const bool isTaken = errno == EWOULDBLOCK;
-        m_handedOver = isTaken && ask(action);
+        m_handedOver = isTaken && ask(start);
         if (m_handedOver || !isTaken)
             return;
     }
@@ -65,12 +66,12 @@ bool SoleInstance::lock() {
     return ::flock(m_lockFile, LOCK_EX | LOCK_NB) == 0;
 }
 
-bool SoleInstance::ask(StartAction action) const {
+bool SoleInstance::ask(const Start& start) const {
     QLocalSocket socket;
     socket.connectToServer(m_path);
     if (!socket.waitForConnected(patience))
         return false;
-    socket.write(qgetenv(tokenVariable) + ' ' + wordOf(action) + '\n');
+    socket.write(qgetenv(tokenVariable) + ' ' + lineOf(start) + '\n');
     return socket.waitForBytesWritten(patience) && socket.waitForReadyRead(patience);
 }
 
@@ -80,13 +81,13 @@ void SoleInstance::answer() {
     connect(socket, &QLocalSocket::readyRead, this, [this, socket] {
         if (!socket->canReadLine())
             return;
-        // The token, which may be empty, and the word of the action.
+        // The token, which may be empty, and the start.
         const QByteArray line = socket->readLine(longestLine);
         const qsizetype end = line.lastIndexOf(' ');
         const QByteArray token = line.first(std::max<qsizetype>(end, 0));
         if (!token.isEmpty())
             qputenv(tokenVariable, token);
-        Q_EMIT activationRequested(startAction(line.sliced(end + 1).trimmed()));
+        Q_EMIT activationRequested(startOf(line.sliced(end + 1).trimmed()));
         socket->write("shown\n");
         socket->disconnectFromServer();
     });

@@ -14,22 +14,22 @@ class SoleInstance : public QObject {
     Q_OBJECT
 
   public:
-    /// Becomes the one for `folder`, or hands `action` to the one there is. Where that does not
+    /// Becomes the one for `folder`, or hands `start` to the one there is. Where that does not
     /// answer in ten seconds, goes on without it.
-    explicit SoleInstance(const QString& folder, StartAction action = StartAction::none);
+    explicit SoleInstance(const QString& folder, const Start& start = {});
     ~SoleInstance() override;
 
     /// Whether the one there is has come to the front, so that nothing is left to do here.
     [[nodiscard]] bool handedOver() const { return m_handedOver; }
 
   Q_SIGNALS:
-    /// A later start asks for the window and an action; on Wayland its activation token is then in
+    /// A later start asks for the window and more; on Wayland its activation token is then in
     /// the environment variable that Qt reads at the next requestActivate().
-    void activationRequested(kovamo::StartAction action);
+    void activationRequested(const kovamo::Start& start);
 
   private:
     [[nodiscard]] bool lock();
-    [[nodiscard]] bool ask(StartAction action) const;
+    [[nodiscard]] bool ask(const Start& start) const;
     void answer();
 
     QString m_path;

@@ -14,11 +14,19 @@ QByteArray wordOf(StartAction action) {
     return {};
 }
 
-StartAction startAction(const QByteArray& word) {
+QByteArray lineOf(const Start& start) {
+    return wordOf(start.action) + '/' + start.file.toUtf8().toPercentEncoding();
+}
+
+Start startOf(const QByteArray& line) {
+    Start start;
+    const qsizetype end = line.indexOf('/');
     for (const StartAction action : {StartAction::newTransaction, StartAction::allTransactions})
-        if (word == wordOf(action))
-            return action;
-    return StartAction::none;
+        if (line.left(end) == wordOf(action))
+            start.action = action;
+    if (end >= 0)
+        start.file = QString::fromUtf8(QByteArray::fromPercentEncoding(line.mid(end + 1)));
+    return start;
 }
 
 } // namespace kovamo

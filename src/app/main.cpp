@@ -112,7 +112,7 @@ int show(const Options& options) {
     std::optional<SoleInstance> instance;
     if (!options.isDemo)
         instance.emplace(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation),
-                         options.action);
+                         options.start);
     if (instance && instance->handedOver())
         return 0;
     const PersistentContainer store(QStringLiteral("Kovamo"), Transaction::entity());
@@ -127,12 +127,12 @@ int show(const Options& options) {
     RootView root(viewContext(app), &wayBack);
     QQmlApplicationEngine engine;
     QQuickWindow& window = KovamoApp::showWindow(engine, root);
-    root.perform(options.action);
+    root.perform(options.start);
     if (instance)
         QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
-                         [&](StartAction action) {
+                         [&](const Start& start) {
                              raise(window);
-                             root.perform(action);
+                             root.perform(start);
                          });
     follow(desktop, window);
     std::optional<OnScreenKeyboard> keyboard;

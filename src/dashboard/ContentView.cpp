@@ -18,13 +18,17 @@ FetchRequest oneOfAll() {
 
 ContentView::ContentView(ManagedObjectContext& viewContext, std::function<void()> requestReview)
     : m_viewContext(viewContext), m_requestReview(std::move(requestReview)),
-      m_allTransactions(viewContext, oneOfAll()) {
+      m_allTransactions(viewContext, oneOfAll()), m_incoming(viewContext.storePath()) {
     // One save is heard of twice, and laid out once: the form's notification loads the container;
     // a deletion and what another process saves are told by the context alone.
     connect(&m_refreshPublisher, &NotificationPublisher::received, this, &ContentView::load);
     connect(&m_transactionContainer, &TransactionContainer::objectWillChange, this,
             &ContentView::layOutLater);
     connect(&viewContext, &ManagedObjectContext::objectsDidChange, this, &ContentView::layOutLater);
+    connect(this, &ContentView::showAddTransactionChanged, this, &ContentView::isCoveredChanged);
+    connect(this, &ContentView::showTransactionsChanged, this, &ContentView::isCoveredChanged);
+    connect(&m_incoming, &ExchangeView::changed, this, &ContentView::isCoveredChanged);
+    connect(&m_incoming, &ExchangeView::changed, this, &ContentView::importNext);
 }
 
 QList<TimeFrameChoice> ContentView::timeFrames() {
@@ -72,6 +76,16 @@ void ContentView::findTransactions() {
     m_transactionsView->search()->open();
 }
 
+void ContentView::importFrom(const QString& path) {
+    m_filesToImport.append(path);
+    importNext();
+}
+
+void ContentView::importNext() {
+    if (m_hasAppeared && !m_incoming.isPresented() && !m_filesToImport.isEmpty())
+        m_incoming.importFrom(m_filesToImport.takeFirst());
+}
+
 void ContentView::addTransactionDidClose() {
     m_addForm.reset();
     Q_EMIT addFormChanged();
@@ -87,6 +101,9 @@ void ContentView::appear() {
     layOut();
     if (m_requestReview)
         m_requestReview();
+    m_hasAppeared = true;
+    // Not before the screen has got the focus, which the sheet takes from it.
+    QMetaObject::invokeMethod(this, &ContentView::importNext, Qt::QueuedConnection);
 }
 
 void ContentView::select(int timeFrame) {

@@ -45,6 +45,7 @@ class ContentView : public QObject {
                    showAddTransactionChanged)
     Q_PROPERTY(bool showTransactions READ showTransactions WRITE setShowTransactions NOTIFY
                    showTransactionsChanged)
+    Q_PROPERTY(bool isCovered READ isCovered NOTIFY isCoveredChanged)
     Q_PROPERTY(bool hasTransactions READ hasTransactions NOTIFY laidOut)
     Q_PROPERTY(bool hasPeriod READ hasPeriod NOTIFY laidOut)
     Q_PROPERTY(bool isEmpty READ isEmpty NOTIFY laidOut)
@@ -54,6 +55,7 @@ class ContentView : public QObject {
     Q_PROPERTY(kovamo::AddTransactionView* addForm READ addForm NOTIFY addFormChanged)
     Q_PROPERTY(kovamo::TransactionsView* transactionsView READ transactionsView NOTIFY
                    transactionsViewChanged)
+    Q_PROPERTY(kovamo::ExchangeView* incoming READ incoming CONSTANT)
 
   public:
     /// Requires: `viewContext` outlives the screen. `requestReview` runs at each appearance, after
@@ -69,6 +71,11 @@ class ContentView : public QObject {
 
     [[nodiscard]] bool showTransactions() const { return m_showTransactions; }
     void setShowTransactions(bool show);
+
+    /// Whether a sheet is open; one that is on its way out can be called back.
+    [[nodiscard]] bool isCovered() const {
+        return m_showAddTransaction || m_showTransactions || m_incoming.isPresented();
+    }
 
     /// Whether anything is stored.
     [[nodiscard]] bool hasTransactions() const { return m_hasTransactions; }
@@ -91,6 +98,13 @@ class ContentView : public QObject {
     [[nodiscard]] AddTransactionView* addForm() const { return m_addForm.get(); }
     [[nodiscard]] TransactionsView* transactionsView() const { return m_transactionsView.get(); }
 
+    /// The files that come from outside, on a sheet over all others, so that nothing typed is lost.
+    [[nodiscard]] ExchangeView* incoming() { return &m_incoming; }
+
+    /// Shows what the file at `path` would bring: at once, or when the screen has appeared and the
+    /// user is done with the files before it.
+    void importFrom(const QString& path);
+
     /// What the amount of the list's row is made of; empty for no row.
     Q_INVOKABLE [[nodiscard]] QString rowComposition(int row) const;
 
@@ -111,11 +125,13 @@ class ContentView : public QObject {
     void selectedTimeFrameChanged();
     void showAddTransactionChanged();
     void showTransactionsChanged();
+    void isCoveredChanged();
     void addFormChanged();
     void transactionsViewChanged();
     void laidOut();
 
   private:
+    void importNext();
     void load();
     void layOutLater();
     void layOut();
@@ -137,6 +153,9 @@ class ContentView : public QObject {
     std::unique_ptr<AddTransactionView> m_addForm;
     bool m_addFormIsDone = false;
     std::unique_ptr<TransactionsView> m_transactionsView;
+    bool m_hasAppeared = false;
+    QStringList m_filesToImport;
+    ExchangeView m_incoming;
 };
 
 } // namespace kovamo

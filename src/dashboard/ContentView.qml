@@ -9,8 +9,6 @@ FocusScope {
 
     required property ContentState content
     readonly property real contentWidth: Math.min(width, 700)
-    /*! Whether a sheet is open; one that is on its way out can be called back. */
-    readonly property bool isCovered: content.showAddTransaction || content.showTransactions
 
     Component.onCompleted: content.appear()
 
@@ -22,21 +20,21 @@ FocusScope {
     // depends on when Qt Quick Controls were loaded.
     Shortcut {
         context: Qt.ApplicationShortcut
-        enabled: !screen.isCovered
+        enabled: !screen.content.isCovered
         sequence: "Ctrl+N"
 
         onActivated: screen.content.showAddTransaction = true
     }
     Shortcut {
         context: Qt.ApplicationShortcut
-        enabled: !screen.isCovered
+        enabled: !screen.content.isCovered
         sequence: "Ctrl+L"
 
         onActivated: screen.content.showTransactions = true
     }
     Shortcut {
         context: Qt.ApplicationShortcut
-        enabled: !screen.isCovered
+        enabled: !screen.content.isCovered
         sequence: "Ctrl+F"
 
         onActivated: screen.content.findTransactions()
@@ -90,7 +88,7 @@ FocusScope {
 
         anchors.bottom: parent.bottom
         choices: screen.content.timeFrames
-        hasShortcuts: visible && !screen.isCovered
+        hasShortcuts: visible && !screen.content.isCovered
         height: visible ? implicitHeight : 0
         selected: screen.content.selectedTimeFrame
         visible: screen.content.hasTransactions
@@ -111,5 +109,14 @@ FocusScope {
                 "content": screen.content
             })
         wanted: screen.content.showTransactions
+    }
+    // Made when it is first wanted: few starts bring a file.
+    Loader {
+        readonly property bool wanted: screen.content.incoming.isPresented
+
+        onWantedChanged: if (status === Loader.Null)
+            setSource(Qt.resolvedUrl("../Editing/ExchangeSheet.qml"), {
+                    "exchange": screen.content.incoming
+                })
     }
 }

@@ -53,14 +53,7 @@ BarButton {
     Loader {
         id: qtDialog
     }
-    Sheet {
-        presented: button.exchange.isPresented
-        title: button.exchange.title
-
-        onDismissed: button.exchange.dismiss()
-
-        ExchangeView {
-            exchange: button.exchange
-        }
+    ExchangeSheet {
+        exchange: button.exchange
     }
 }

@@ -15,7 +15,7 @@ namespace kovamo {
 class ExchangeView : public QObject {
     Q_OBJECT
     QML_NAMED_ELEMENT(ExchangeState)
-    QML_UNCREATABLE("Made by the screen of all transactions")
+    QML_UNCREATABLE("Made by the screens")
     /// Whether the sheet is open.
     Q_PROPERTY(bool isPresented READ isPresented NOTIFY changed)
     Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)

@@ -11,7 +11,7 @@ FocusScope {
     id: page
 
     required property TransactionsState transactions
-    /*! Whether no form lies over the list. */
+    /*! Whether neither a form nor a sheet lies over the list. */
     required property bool isOnTop
     readonly property TransactionSearch search: transactions.search
     property string navigationTitle: qsTr("Transactions")

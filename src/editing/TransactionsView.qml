@@ -26,7 +26,7 @@ NavigationStack {
 
     initialPage: TransactionsPage {
         transactions: screen.transactions
-        isOnTop: screen.depth === 1
+        isOnTop: screen.depth === 1 && screen.activeFocus
 
         onOpened: row => screen.open(row)
     }

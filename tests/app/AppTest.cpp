@@ -50,7 +50,7 @@ class Visit {
         m_window->setProperty("reducedMotion", true);
         press(key, Qt::ControlModifier);
     }
-    void perform(StartAction action) { m_root.perform(action); }
+    void perform(const Start& start) { m_root.perform(start); }
     void write(const QString& field, const QString& text) {
         click(field);
         type(text);
@@ -336,14 +336,58 @@ TEST_F(App, SeesADeletionUnderTheSheet) {
 TEST_F(App, OpensWhatAStartAsksForButNotOverASheet) {
     Book book({{300}});
     Visit visit(book);
-    visit.perform(StartAction::newTransaction);
+    visit.perform({StartAction::newTransaction});
     EXPECT_TRUE(visit.has("Save"));
-    visit.perform(StartAction::allTransactions);
+    visit.perform({StartAction::allTransactions});
     EXPECT_TRUE(visit.has("Save"));
     visit.press(Qt::Key_Escape);
     EXPECT_TRUE(visit.lacks("Save"));
-    visit.perform(StartAction::allTransactions);
+    visit.perform({StartAction::allTransactions});
     EXPECT_TRUE(visit.shows("Transactions"));
+}
+
+/// A file of one record of an amount, by which its id and its name go, too.
+QString fileOf(int amount) {
+    QFile file(QStringLiteral("%1/%2.csv").arg(World::folder()).arg(amount));
+    EXPECT_TRUE(file.open(QFile::WriteOnly));
+    file.write("id,date,title,emoji,amount,kind,timestamp\n7e3c8a1e-0000-4000-8000-" +
+               QByteArray::number(amount).rightJustified(12, '0') + ",2024-05-02,Rent,🏠," +
+               QByteArray::number(amount) + ",spending,\n");
+    return file.fileName();
+}
+
+TEST_F(App, TakesInTheFilesOfStartsOneByOneOverWhatIsTyped) {
+    UserDefaults::standard().set(RootView::onboardingFinishedKey(), false);
+    Book book;
+    Visit visit(book);
+    visit.perform({.file = fileOf(1)});
+    for (const char* button : {"Next", "Next", "Next", "Get Started"})
+        visit.click(button);
+    EXPECT_TRUE(visit.shows("1.csv")) << "it waits for the first pages to be finished";
+    visit.press(Qt::Key_N, Qt::ControlModifier);
+    visit.press(Qt::Key_Escape);
+    EXPECT_TRUE(visit.hides("1.csv"));
+    EXPECT_TRUE(visit.hides("New Transaction")) << "a sheet was open";
+
+    visit.press(Qt::Key_N, Qt::ControlModifier);
+    visit.write("Emoji", "☕");
+    visit.writeNext("Coffee");
+    visit.writeNext("7");
+    visit.perform({StartAction::allTransactions, fileOf(20)});
+    visit.perform({.file = fileOf(30)});
+    EXPECT_TRUE(visit.shows("New: 1"));
+    visit.press(Qt::Key_S, Qt::ControlModifier);
+    visit.click("Import");
+    EXPECT_TRUE(visit.shows("Imported"));
+    EXPECT_EQ(book.amounts(), std::vector{20}) << "the form below keeps waiting";
+    visit.click("Done");
+    EXPECT_TRUE(visit.shows("30.csv"));
+    visit.press(Qt::Key_Escape);
+    EXPECT_TRUE(visit.hides("30.csv"));
+    visit.press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_TRUE(visit.hides("New Transaction"));
+    EXPECT_EQ(book.amounts(), (std::vector{20, 7}));
+    EXPECT_EQ(book.all()[1]->title(), QStringLiteral("Coffee"));
 }
 
 TEST_F(App, FindsARecordAndTakesItsDeletionBack) {

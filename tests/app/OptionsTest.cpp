@@ -7,6 +7,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTest>
+#include <QUrl>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -25,8 +26,8 @@ struct Ended : QProcess {
 };
 
 TEST(Options, AreExplainedAndUnknownOnesRefused) {
-    for (const char* wrong :
-         {"--frob", "--appearance", "--appearance sepia", "--appearance=sepia", "--pictures"}) {
+    for (const char* wrong : {"--frob", "nowhere.csv", "/", "--appearance", "--appearance sepia",
+                              "--appearance=sepia", "--pictures"}) {
         const Ended run(QString::fromUtf8(wrong).split(u' '));
         EXPECT_EQ(run.exitCode(), 2) << wrong;
         EXPECT_TRUE(run.errors.endsWith("Try: kovamo --help\n")) << wrong;
@@ -78,22 +79,32 @@ TEST(SecondStart, LeavesTheFirstAloneAndComesBackWhenThatIsKilled) {
     }
 }
 
-TEST(SecondStart, HandsItsActionToTheFirst) {
+TEST(SecondStart, HandsWhatItAsksForToTheFirst) {
     qputenv("XDG_RUNTIME_DIR", World::folder().toUtf8());
     SoleInstance first(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
-    QList<StartAction> heard;
+    QList<Start> heard;
     QObject::connect(&first, &SoleInstance::activationRequested, &first,
-                     [&](StartAction action) { heard.append(action); });
-    for (const char* word : {"", "--new-transaction", "--all-transactions"}) {
+                     [&](const Start& start) { heard.append(start); });
+    const QString name = QStringLiteral(" 100% of a/b\n\t銀行 مصرف.csv").replace(u'/', u'+');
+    const QString path = World::folder() + u'/' + name;
+    ASSERT_TRUE(QFile(path).open(QFile::WriteOnly));
+    const std::pair<QStringList, Start> starts[] = {
+        {{}, {}},
+        {{QStringLiteral("--new-transaction")}, {StartAction::newTransaction}},
+        {{QStringLiteral("--all-transactions"), path}, {StartAction::allTransactions, path}},
+        {{name}, {StartAction::none, path}},
+        {{QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded)}, {StartAction::none, path}},
+    };
+    for (const auto& [arguments, start] : starts) {
         QProcess second;
-        second.start(QStringLiteral(KOVAMO_EXECUTABLE),
-                     QString::fromLatin1(word).split(u' ', Qt::SkipEmptyParts));
+        second.setWorkingDirectory(World::folder());
+        second.start(QStringLiteral(KOVAMO_EXECUTABLE), arguments);
         EXPECT_TRUE(
             QTest::qWaitFor([&] { return second.state() == QProcess::NotRunning; }, 120000));
-        EXPECT_EQ(second.exitCode(), 0) << word;
+        EXPECT_EQ(second.exitCode(), 0) << second.readAllStandardError().data();
+        EXPECT_TRUE(!heard.isEmpty() && heard.last() == start)
+            << arguments.join(u' ').toStdString();
     }
-    EXPECT_EQ(heard, QList({StartAction::none, StartAction::newTransaction,
-                            StartAction::allTransactions}));
 }
 
 TEST(Options, AreAnsweredAlsoWhereNobodyReads) {
