@@ -37,8 +37,8 @@ void makeStore(const QTemporaryDir& folder, const Ledger& ledger) {
 RunningApp::RunningApp() : m_container(loaded()) {
     m_plain = std::make_unique<PlainLoop>(m_container->storePath());
     m_root = std::make_unique<RootView>(m_container->viewContext());
-    m_engine = std::make_unique<QQmlApplicationEngine>();
-    m_window = &KovamoApp::showWindow(*m_engine, *m_root);
+    m_engine = std::make_unique<QQmlEngine>();
+    m_window = KovamoApp::showWindow(*m_engine, *m_root);
     m_window->resize(390, 844);
     showFrame();
 }
@@ -62,8 +62,8 @@ void RunningApp::layOut() {
 
 void RunningApp::showFrame() {
     bool isShown = false;
-    const auto connection = QObject::connect(m_window, &QQuickWindow::frameSwapped, m_window,
-                                             [&isShown] { isShown = true; });
+    const auto connection = QObject::connect(m_window.get(), &QQuickWindow::frameSwapped,
+                                             m_window.get(), [&isShown] { isShown = true; });
     m_window->update();
     while (!isShown)
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);

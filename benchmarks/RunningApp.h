@@ -4,7 +4,7 @@
 #include "app/RootView.h"
 #include "model/PersistenceController.h"
 
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTemporaryDir>
@@ -43,8 +43,8 @@ class RunningApp {
     std::unique_ptr<PersistentContainer> m_container;
     std::unique_ptr<PlainLoop> m_plain;
     std::unique_ptr<RootView> m_root;
-    std::unique_ptr<QQmlApplicationEngine> m_engine;
-    QQuickWindow* m_window = nullptr;
+    std::unique_ptr<QQmlEngine> m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
 };
 
 } // namespace kovamo

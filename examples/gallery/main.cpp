@@ -1,11 +1,13 @@
 #include "platform/controls/QmlWindow.h"
 
 #include <QGuiApplication>
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
+#include <QQuickWindow>
 
 int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
-    QQmlApplicationEngine engine;
-    kovamo::loadWindow(engine, QStringLiteral("Kovamo/Gallery/GalleryWindow.qml"));
+    QQmlEngine engine;
+    const auto window =
+        kovamo::loadWindow(engine, QStringLiteral("Kovamo/Gallery/GalleryWindow.qml"));
     return QGuiApplication::exec();
 }

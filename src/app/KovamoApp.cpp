@@ -4,6 +4,8 @@
 #include "platform/controls/QmlWindow.h"
 #include "platform/foundation/Bundle.h"
 
+#include <QQuickWindow>
+
 namespace kovamo {
 
 void KovamoApp::describe() {
@@ -12,7 +14,7 @@ void KovamoApp::describe() {
                                       {kCFBundleVersionKey, QStringLiteral(KOVAMO_BUILD_NUMBER)}});
 }
 
-QQuickWindow& KovamoApp::showWindow(QQmlApplicationEngine& engine, RootView& root) {
+std::unique_ptr<QQuickWindow> KovamoApp::showWindow(QQmlEngine& engine, RootView& root) {
     return loadWindow(engine, QStringLiteral("Kovamo/App/Main.qml"),
                       {{QStringLiteral("root"), QVariant::fromValue(&root)}});
 }

@@ -2,7 +2,9 @@
 
 #include "model/PersistenceController.h"
 
-class QQmlApplicationEngine;
+#include <memory>
+
+class QQmlEngine;
 class QQuickWindow;
 
 namespace kovamo {
@@ -16,9 +18,10 @@ struct KovamoApp {
     /// Says in the main bundle what the app is called and which build it is. Before anything else.
     static void describe();
 
-    /// Loads the window that shows `root` into `engine`. A window that does not load is a fatal
-    /// error.
-    static QQuickWindow& showWindow(QQmlApplicationEngine& engine, RootView& root);
+    /// Loads the window that shows `root` by `engine`. Both outlive it. A window that does not load
+    /// is a fatal error.
+    [[nodiscard]] static std::unique_ptr<QQuickWindow> showWindow(QQmlEngine& engine,
+                                                                  RootView& root);
 };
 
 } // namespace kovamo

@@ -14,7 +14,7 @@
 #include "platform/foundation/UserDefaults.h"
 
 #include <QGuiApplication>
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
 #include <QQuickWindow>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -99,12 +99,12 @@ void follow(const DesktopSettings& desktop, QQuickWindow& window) {
 int draw(const Options& options) {
     const KovamoApp app{PersistenceController::shared()};
     RootView root(viewContext(app));
-    QQmlApplicationEngine engine;
-    QQuickWindow& window = KovamoApp::showWindow(engine, root);
+    QQmlEngine engine;
+    const auto window = KovamoApp::showWindow(engine, root);
     const QList<ColorScheme> appearances = options.appearance
                                                ? QList{*options.appearance}
                                                : QList{ColorScheme::light, ColorScheme::dark};
-    return drawPictures(window, root, viewContext(app), appearances, *options.pictures) ? 0 : 1;
+    return drawPictures(*window, root, viewContext(app), appearances, *options.pictures) ? 0 : 1;
 }
 
 int show(const Options& options) {
@@ -125,16 +125,16 @@ int show(const Options& options) {
     }
     WayBack wayBack(*app.persistenceController.container);
     RootView root(viewContext(app), &wayBack);
-    QQmlApplicationEngine engine;
-    QQuickWindow& window = KovamoApp::showWindow(engine, root);
+    QQmlEngine engine;
+    const auto window = KovamoApp::showWindow(engine, root);
     root.perform(options.start);
     if (instance)
-        QObject::connect(&*instance, &SoleInstance::activationRequested, &window,
+        QObject::connect(&*instance, &SoleInstance::activationRequested, window.get(),
                          [&](const Start& start) {
-                             raise(window);
+                             raise(*window);
                              root.perform(start);
                          });
-    follow(desktop, window);
+    follow(desktop, *window);
     std::optional<OnScreenKeyboard> keyboard;
     if (OnScreenKeyboard::isCalledByApp())
         keyboard.emplace();

@@ -6,7 +6,7 @@
 #include "support/FastQueue.h"
 #include "support/Hand.h"
 
-#include <QQmlApplicationEngine>
+#include <QQmlEngine>
 #include <QTest>
 
 namespace kovamo {
@@ -17,10 +17,10 @@ class Visit {
   public:
     explicit Visit(Book& book) : m_wayBack(book.container), m_root(book.context, &m_wayBack) {
         failOnWarnings(m_engine);
-        m_window = &KovamoApp::showWindow(m_engine, m_root);
+        m_window = KovamoApp::showWindow(m_engine, m_root);
         m_window->setProperty("reducedMotion", true);
         m_window->requestActivate();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(m_window.get()));
     }
 
     /// Whether a text comes to be shown, or goes.
@@ -105,15 +105,15 @@ class Visit {
     }
     void setReducedMotion(bool reduced) { m_window->setProperty("reducedMotion", reduced); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
-        QTest::keyClick(m_window, key, modifiers);
+        QTest::keyClick(m_window.get(), key, modifiers);
     }
 
   private:
     static bool soon(const std::function<bool()>& holds) { return QTest::qWaitFor(holds, 30000); }
     WayBack m_wayBack;
     RootView m_root;
-    QQmlApplicationEngine m_engine;
-    QQuickWindow* m_window = nullptr;
+    QQmlEngine m_engine;
+    std::unique_ptr<QQuickWindow> m_window;
 };
 
 struct App : testing::Test {
