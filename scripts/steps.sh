@@ -35,6 +35,7 @@ run_packages=("${app_packages[@]}" fonts-noto-cjk fonts-noto-core)
 
 library_packages=(
     libcsv-dev
+    libfontconfig-dev
     libicu-dev
     libsqlite3-dev
     libsqlitecpp-dev

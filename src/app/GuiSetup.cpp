@@ -6,20 +6,39 @@
 #include "platform/foundation/Bundle.h"
 
 #include <QDir>
-#include <QFontInfo>
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <fontconfig/fontconfig.h>
+#include <memory>
 
 namespace kovamo {
 
 namespace {
+
+/// The installed family that `family` stands for in the user's language: "Sans Serif" is none.
+/// (QFontInfo knows it too, once it has loaded that font and listed all that could take its place.)
+QString installedFamily(const QString& family) {
+    using Pattern = std::unique_ptr<FcPattern, decltype(&FcPatternDestroy)>;
+    const QByteArray name = family.toUtf8();
+    const Pattern wanted(
+        FcPatternBuild(nullptr, FC_FAMILY, FcTypeString, name.constData(), nullptr),
+        &FcPatternDestroy);
+    FcConfigSubstitute(nullptr, wanted.get(), FcMatchPattern);
+    FcDefaultSubstitute(wanted.get());
+    FcResult result = FcResultNoMatch;
+    const Pattern found(FcFontMatch(nullptr, wanted.get(), &result), &FcPatternDestroy);
+    FcChar8* installed = nullptr;
+    if (!found || FcPatternGetString(found.get(), FC_FAMILY, 0, &installed) != FcResultMatch)
+        return family;
+    return QString::fromUtf8(reinterpret_cast<const char*>(installed));
+}
 
 /// Puts the colour emoji font right behind those for text, before fonts that draw the same
 /// characters in black. A language's own font may lack the digits, which the emoji font has too: a
 /// font for Latin goes between.
 void preferColourEmoji() {
     QFont font = QGuiApplication::font();
-    const QStringList families{QFontInfo(font).family(), QStringLiteral("Noto Sans"),
+    const QStringList families{installedFamily(font.family()), QStringLiteral("Noto Sans"),
                                emojiFontFamily()};
     // Text fields ignore the families of the application font, but follow substitutions.
     QFont::insertSubstitutions(font.family(), families);
