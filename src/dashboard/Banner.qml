@@ -38,8 +38,8 @@ Item {
             Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
             color: SystemColors.white
-            fits: true
             font: TextStyles.headline
+            fontSizeMode: Text.HorizontalFit
             // White on yellow is hard to read without an edge.
             style: Text.Raised
             styleColor: SystemColors.dimming

@@ -24,7 +24,8 @@ Column {
     EqualRow {
         id: row
 
-        model: picker.choices
+        // While they are hidden, a start need not make them.
+        model: picker.visible ? picker.choices : []
         width: parent.width
 
         Pressable {

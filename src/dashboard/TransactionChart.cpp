@@ -49,8 +49,8 @@ TransactionChart::TransactionChart(ManagedObjectContext& context, TimeFrame time
     const Period period = periodBounds(timeFrame);
     startDate = period.start;
     endDate = period.end;
-    const QString year = QStringLiteral("y");
-    if (localizedDateText(startDate, year) != localizedDateText(endDate, year))
+    const DateFormatter year{QStringLiteral("y")};
+    if (year.string(startDate) != year.string(endDate))
         stackDateFormat.dateFormat = QStringLiteral("MM/dd/yy");
     gatherTransactions(timeFrame, context, transactions);
     transactions = radixSorted(std::move(transactions), [](const auto& transaction) {

@@ -37,8 +37,8 @@ FocusScope {
         PlainText {
             Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
-            fits: true
             font: TextStyles.headline
+            fontSizeMode: Text.HorizontalFit
             text: row.chart.title
             visible: text !== ""
             width: Math.min(implicitWidth, parent.width)
@@ -47,7 +47,7 @@ FocusScope {
             Accessible.ignored: true
             anchors.horizontalCenter: parent.horizontalCenter
             color: SystemColors.gray
-            fits: true
+            fontSizeMode: Text.HorizontalFit
             markup: row.chart.range
             textStyle: TextStyles.subheadline
             width: Math.min(implicitWidth, parent.width)

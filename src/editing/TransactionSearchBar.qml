@@ -47,8 +47,8 @@ FocusScope {
         anchors.top: field.bottom
         anchors.topMargin: Metrics.step
         color: SystemColors.secondaryLabel
-        fits: true
         font: TextStyles.subheadline
+        fontSizeMode: Text.HorizontalFit
         text: bar.search.summary
     }
     Announcement {

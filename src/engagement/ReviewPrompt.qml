@@ -64,8 +64,8 @@ T.Popup {
         }
         PlainText {
             id: title
-            fits: true
             font: TextStyles.headline
+            fontSizeMode: Text.HorizontalFit
             horizontalAlignment: Text.AlignHCenter
             text: StoreReviewController.stars > 0 ? "Thank you!" : "Enjoying Kovamo?"
             width: parent.width

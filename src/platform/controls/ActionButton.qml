@@ -42,7 +42,7 @@ Pressable {
         anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.accent
         font: TextStyles.headline
-        fits: true
+        fontSizeMode: Text.HorizontalFit
         height: image.height
         text: button.text
         verticalAlignment: Text.AlignVCenter

@@ -3,6 +3,11 @@ import QtQuick
 
 /*! The distances of every screen, in points. */
 QtObject {
+    // Before what is made of it: Qt gives it its font in this order, and would load another for it first.
+    readonly property FontMetrics body: FontMetrics {
+        font: TextStyles.body
+    }
+
     readonly property int step: 4
     readonly property int padding: 16
     /*! The least width and height of what a finger is to hit. */
@@ -18,10 +23,6 @@ QtObject {
 
     /*! The widest that a column of text and controls gets, however wide the window. */
     readonly property int readableWidth: 620
-
-    readonly property FontMetrics body: FontMetrics {
-        font: TextStyles.body
-    }
 
     /*! One device pixel. */
     readonly property real hairline: 1 / Screen.devicePixelRatio

@@ -56,7 +56,7 @@ Column {
             anchors.left: parent.left
             anchors.right: pill.left
             anchors.verticalCenter: parent.verticalCenter
-            fits: true
+            fontSizeMode: Text.HorizontalFit
             text: field.label
         }
         Rectangle {
@@ -76,7 +76,7 @@ Column {
                 Accessible.ignored: true
                 anchors.centerIn: parent
                 color: field.unfolded ? SystemColors.accent : SystemColors.label
-                fits: true
+                fontSizeMode: Text.HorizontalFit
                 text: month.momentText
                 width: Math.min(implicitWidth, pill.parent.width * 0.7 - Metrics.step * 5)
             }

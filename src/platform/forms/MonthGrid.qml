@@ -30,8 +30,8 @@ Column {
             anchors.leftMargin: Metrics.step * 3
             anchors.right: buttons.left
             anchors.verticalCenter: parent.verticalCenter
-            fits: true
             font: TextStyles.headline
+            fontSizeMode: Text.HorizontalFit
             text: grid.calendar.title
         }
         Row {

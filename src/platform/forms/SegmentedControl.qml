@@ -99,7 +99,7 @@ Focusable {
 
                 Accessible.ignored: true
                 anchors.centerIn: parent
-                font: segment.chosen ? TextStyles.style(15, Font.DemiBold) : TextStyles.subheadline
+                font: segment.chosen ? TextStyles.style(15, TextStyles.demiBoldWeight) : TextStyles.subheadline
                 opacity: tap.pressed && !segment.chosen ? 0.4 : 1
                 scale: segments.shrink
                 text: segment.modelData

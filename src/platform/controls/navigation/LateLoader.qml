@@ -11,18 +11,22 @@ Loader {
     /*! Whether it is to be there now. */
     property bool wanted: false
 
+    /*! Whether its loading has begun. */
+    property bool begun: false
+
     function load() {
+        begun = true;
         // An asynchronous load cannot be turned into a synchronous one: clear it and start again.
         source = "";
         asynchronous = !wanted;
         setSource(file, properties);
     }
 
-    onWantedChanged: if (wanted && status !== Loader.Ready)
+    onWantedChanged: if (wanted && !item)
         load()
 
     Connections {
-        enabled: loader.status === Loader.Null
+        enabled: !loader.begun
         target: loader.Window.window
 
         function onFrameSwapped() {

@@ -40,8 +40,8 @@ Item {
         Accessible.ignored: text === ""
         Accessible.role: Accessible.Heading
         anchors.centerIn: parent
-        fits: true
         font: TextStyles.headline
+        fontSizeMode: Text.HorizontalFit
         text: bar.title
         width: Math.min(implicitWidth, bar.width - 2 * bar.side)
     }

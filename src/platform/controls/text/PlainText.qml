@@ -1,17 +1,15 @@
 import QtQuick
 import Kovamo.Desktop
 
-/*! One line of text, shown as it is written: the user's words are never taken for markup. */
+/*! One line of text, shown as it is written: the user's words are never taken for markup. With the
+    font size mode Text.HorizontalFit, a text that is too wide is made smaller, down to half a
+    footnote, before it is cut. */
 Text {
-    /*! Whether a text that is too wide is made smaller, down to half a footnote, before it is cut. */
-    property bool fits: false
-
     Accessible.name: text
     Accessible.role: Accessible.StaticText
     color: SystemColors.label
     elide: Text.ElideRight
     font: TextStyles.body
-    fontSizeMode: fits ? Text.HorizontalFit : Text.FixedSize
     horizontalAlignment: Text.AlignLeft
     maximumLineCount: 1
     minimumPixelSize: TextStyles.footnote.pixelSize / 2

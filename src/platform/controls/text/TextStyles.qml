@@ -11,13 +11,18 @@ QtObject {
     /*! Whether text is so large that a line holds little of it. */
     readonly property bool isLarge: scale >= 1.5
 
-    readonly property font largeTitle: styles.style(34, Font.Normal)
-    readonly property font headline: styles.style(17, Font.DemiBold)
-    readonly property font body: styles.style(17, Font.Normal)
-    readonly property font subheadline: styles.style(15, Font.Normal)
-    readonly property font footnote: styles.style(13, Font.Normal)
+    // Qt reads such a number when it compiles the file; in a call, it first lists all that Font has.
+    readonly property int normalWeight: Font.Normal
+    readonly property int demiBoldWeight: Font.DemiBold
+    readonly property int boldWeight: Font.Bold
+
+    readonly property font largeTitle: styles.style(34, normalWeight)
+    readonly property font headline: styles.style(17, demiBoldWeight)
+    readonly property font body: styles.style(17, normalWeight)
+    readonly property font subheadline: styles.style(15, normalWeight)
+    readonly property font footnote: styles.style(13, normalWeight)
     /*! The emoji to choose from. */
-    readonly property font emoji: styles.style(28, Font.Normal)
+    readonly property font emoji: styles.style(28, normalWeight)
 
     /*! The system's font at `points` layout points. */
     function style(points: real, weight: int): font {
@@ -31,7 +36,7 @@ QtObject {
     function bold(style: font): font {
         return Qt.font({
                 "pixelSize": style.pixelSize,
-                "weight": Font.Bold
+                "weight": styles.boldWeight
             });
     }
 }
