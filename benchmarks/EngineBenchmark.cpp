@@ -6,6 +6,7 @@
 #include "platform/foundation/NotificationCenter.h"
 
 #include <QGuiApplication>
+#include <algorithm>
 #include <benchmark/benchmark.h>
 #include <chrono>
 #include <cstdio>
@@ -16,6 +17,7 @@ namespace kovamo {
 namespace {
 
 constexpr double displayFrame = 1000.0 / 60;
+constexpr double longestWait = 50;
 constexpr int lifetime = 100'000;
 constexpr int stress = 1'000'000;
 constexpr Ledger lifetimeLedger{lifetime, 8'700};
@@ -154,6 +156,34 @@ void plainSelect(benchmark::State& state, Apps& apps) {
         benchmark::DoNotOptimize(plain.countByAmount());
 }
 
+/// Milliseconds from each letter typed into the search, or taken out of it, until the window shows
+/// what it finds.
+std::vector<double> searches(RunningApp& app) {
+    app.content().findTransactions();
+    TransactionSearch& search = *app.content().transactionsView()->search();
+    // The first query waits until all is gathered that is searched.
+    search.setQuery(QStringLiteral("x"));
+    app.settle();
+    std::vector<double> times;
+    const auto type = [&](const QString& query) {
+        const auto start = std::chrono::steady_clock::now();
+        search.setQuery(query);
+        app.showFrame();
+        const std::chrono::duration<double, std::milli> time =
+            std::chrono::steady_clock::now() - start;
+        times.push_back(time.count());
+    };
+    for (const QString& query : {QStringLiteral("transaction 4711"), QStringLiteral("cart earning"),
+                                 QStringLiteral("2024 monthly")}) {
+        for (qsizetype letters = 1; letters <= query.size(); ++letters)
+            type(query.first(letters));
+        for (qsizetype letters = query.size() - 1; letters >= 0; --letters)
+            type(query.first(letters));
+    }
+    std::ranges::sort(times);
+    return times;
+}
+
 /// How many display frames are missed while the list in the foreground is scrolled to its end, a
 /// screen's half a frame.
 int missedFrames(RunningApp& app, int& shown) {
@@ -199,7 +229,7 @@ void printRow(const char* what, double figure, const char* against, double refer
 void printRows(const Medians& median, Apps& apps) {
     const double change = median["change the time frame"], plain = median["plain loop"];
     printRow("change of time frame, 100,000 stored, 8,700 in it", change,
-             "plain SQLite loop over the same queries", plain, 1);
+             "plain SQLite loop over the same queries", plain, 0.5);
     printRow("the same change of time frame", change, "one display frame", displayFrame, 1);
     const double smallest = median["frame of 1,000, 10,000 stored"];
     for (const char* larger :
@@ -220,6 +250,10 @@ void printRows(const Medians& median, Apps& apps) {
         app.content().setShowTransactions(true);
         app.settle();
     }
+    const std::vector<double> search = searches(app);
+    printRow("search in 100,000, a letter typed until shown", search[search.size() / 2],
+             "one display frame", displayFrame, 1);
+    printRow("the slowest of these letters", search.back(), "what it may be", longestWait, 1);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// Opens the app on the store of its environment, shows twelve months and all transactions, and
-// ends. What it needs at its peak is measured from outside.
+// Opens the app on the store of its environment, shows twelve months and all transactions, searches
+// these if it has an argument, and ends. What it needs at its peak is measured from outside.
 
 #include "RunningApp.h"
 
@@ -12,5 +12,10 @@ int main(int argc, char** argv) {
     app.showFrame();
     app.content().setShowTransactions(true);
     app.settle();
+    if (argc > 1) {
+        app.content().findTransactions();
+        app.content().transactionsView()->search()->setQuery(QStringLiteral("t"));
+        app.settle();
+    }
     return 0;
 }

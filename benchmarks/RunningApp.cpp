@@ -14,6 +14,7 @@ namespace {
 constexpr int restMilliseconds = 700;
 
 std::unique_ptr<PersistentContainer> loaded() {
+    KovamoApp::describe();
     auto container =
         std::make_unique<PersistentContainer>(QStringLiteral("Kovamo"), Transaction::entity());
     container->loadPersistentStores([](const StoreError* error) {

@@ -69,7 +69,7 @@ lint_packages=(clang-format)
 # Without dpkg-dev and file, a package would not know what it depends on.
 package_packages=(appstream desktop-file-utils dpkg-dev file lintian)
 
-bench_packages=(dbus-daemon gnuplot-nox ledger libbenchmark-dev sqlite3 xvfb)
+bench_packages=(dbus-daemon gnuplot-nox ledger libbenchmark-dev sqlite3 time valgrind xvfb)
 
 fuzz_packages=(clang libclang-rt-dev llvm)
 

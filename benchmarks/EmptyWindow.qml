@@ -1,7 +1,0 @@
-import QtQuick
-
-Window {
-    height: 844
-    visible: true
-    width: 390
-}
