@@ -54,11 +54,13 @@ Instant Calendar::moved(Instant instant, const CalendarDay& day) const {
 }
 
 int Calendar::daysInMonth(const CalendarDay& day) const {
-    set(instant({day.year, day.month, 1, day.isLeapMonth}));
+    set(instant({day.year, day.month, 1, day.isLeapMonth}, 12));
+    const int first = field(UCAL_JULIAN_DAY);
+    // ICU's getActualMaximum takes a leap month for the one before it.
     UErrorCode status = U_ZERO_ERROR;
-    const int days = m_fields->getActualMaximum(UCAL_DAY_OF_MONTH, status);
+    m_fields->add(UCAL_MONTH, 1, status);
     require(status);
-    return days;
+    return field(UCAL_JULIAN_DAY) - first;
 }
 
 int Calendar::weekday(const CalendarDay& day) const {
