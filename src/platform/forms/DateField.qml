@@ -19,6 +19,7 @@ Column {
 
     function toggle() {
         month.reset();
+        grid.choosesMonth = false;
         field.unfolded = !field.unfolded;
         row.forceActiveFocus(Qt.MouseFocusReason);
     }
@@ -29,6 +30,12 @@ Column {
         event.accepted = field.unfolded;
         if (field.unfolded)
             field.toggle();
+    }
+    Keys.onPressed: event => {
+        const way = event.key === Qt.Key_PageUp ? -1 : event.key === Qt.Key_PageDown ? 1 : 0;
+        event.accepted = field.unfolded && way !== 0;
+        if (event.accepted)
+            grid.turn(way, grid.choosesMonth || event.modifiers & Qt.ShiftModifier);
     }
     onVisibleChanged: unfolded = false
 

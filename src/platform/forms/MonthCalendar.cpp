@@ -69,6 +69,43 @@ bool MonthCalendar::canGoBack() const {
     return !isBeforeMinimum(day(0));
 }
 
+QString MonthCalendar::year() const {
+    return localizedDateText(Calendar().instant(m_cursor, 12), QStringLiteral("y"));
+}
+
+QStringList MonthCalendar::months() const {
+    const Calendar calendar;
+    QStringList names;
+    for (const CalendarDay& first : firstDays())
+        names += localizedDateText(calendar.instant(first, 12), QStringLiteral("LLL"));
+    return names;
+}
+
+int MonthCalendar::month() const {
+    const std::vector<CalendarDay> all = firstDays();
+    return static_cast<int>(std::ranges::find(all, day(1)) - all.begin());
+}
+
+int MonthCalendar::firstMonth() const {
+    const std::vector<CalendarDay> all = firstDays();
+    const auto isBefore = [this](const CalendarDay& first) { return isMonthBeforeMinimum(first); };
+    return static_cast<int>(std::ranges::find_if_not(all, isBefore) - all.begin());
+}
+
+void MonthCalendar::moveYears(int years) {
+    const CalendarDay other{m_cursor.year + years, m_cursor.month};
+    if (isMonthBeforeMinimum(other))
+        show(Calendar().day(instantOf(m_minimum)));
+    else
+        showMonthOf(other);
+}
+
+void MonthCalendar::showMonth(int index) {
+    const std::vector<CalendarDay> all = firstDays();
+    if (index >= firstMonth() && index < std::ssize(all))
+        showMonthOf(all[static_cast<std::size_t>(index)]);
+}
+
 void MonthCalendar::previousMonth() {
     if (!canGoBack())
         return;
@@ -143,6 +180,22 @@ void MonthCalendar::showMonthOf(const CalendarDay& other) {
 void MonthCalendar::refresh() {
     Q_EMIT monthChanged();
     Q_EMIT dataChanged(index(0), index(cells - 1));
+}
+
+std::vector<CalendarDay> MonthCalendar::firstDays() const {
+    const Calendar calendar;
+    std::vector<CalendarDay> days;
+    for (CalendarDay day{m_cursor.year}; day.year == m_cursor.year;) {
+        days.push_back(day);
+        day.day += calendar.daysInMonth(day);
+        day = calendar.day(calendar.instant(day, 12));
+    }
+    return days;
+}
+
+bool MonthCalendar::isMonthBeforeMinimum(CalendarDay day) const {
+    day.day = Calendar().daysInMonth(day);
+    return isBeforeMinimum(day);
 }
 
 int MonthCalendar::leadingCells() const {

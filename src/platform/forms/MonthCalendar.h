@@ -5,6 +5,7 @@
 #include <QAbstractListModel>
 #include <QStringList>
 #include <QtQml/qqmlregistration.h>
+#include <vector>
 
 namespace kovamo {
 
@@ -25,6 +26,10 @@ class MonthCalendar : public QAbstractListModel {
     Q_PROPERTY(int cursor READ cursor NOTIFY monthChanged)
     Q_PROPERTY(QString cursorText READ cursorText NOTIFY monthChanged)
     Q_PROPERTY(bool canGoBack READ canGoBack NOTIFY monthChanged)
+    Q_PROPERTY(QString year READ year NOTIFY monthChanged)
+    Q_PROPERTY(QStringList months READ months NOTIFY monthChanged)
+    Q_PROPERTY(int month READ month NOTIFY monthChanged)
+    Q_PROPERTY(int firstMonth READ firstMonth NOTIFY monthChanged)
 
   public:
     enum Role { Text = Qt::UserRole, FullText, Selected, Today, Enabled };
@@ -52,9 +57,21 @@ class MonthCalendar : public QAbstractListModel {
     [[nodiscard]] QString cursorText() const;
     /// Whether the month before this one has a day that can be picked.
     [[nodiscard]] bool canGoBack() const;
+    /// The year of the month that is shown.
+    [[nodiscard]] QString year() const;
+    /// The short names of that year's months: twelve, or thirteen in some calendars.
+    [[nodiscard]] QStringList months() const;
+    /// Which of them is shown.
+    [[nodiscard]] int month() const;
+    /// The first of them that has a day that can be picked; their number if none has.
+    [[nodiscard]] int firstMonth() const;
 
     Q_INVOKABLE void previousMonth();
     Q_INVOKABLE void nextMonth();
+    /// Shows the month `years` later, or the first one that has a day that can be picked.
+    Q_INVOKABLE void moveYears(int years);
+    /// Shows one of `months`; nothing where it is before `firstMonth`.
+    Q_INVOKABLE void showMonth(int index);
     /// Moves the cursor by days, into another month where it leads there.
     Q_INVOKABLE void moveCursor(int days);
     /// Picks the day of a cell, its time of day that of `moment`; nothing where no day can be.
@@ -76,6 +93,9 @@ class MonthCalendar : public QAbstractListModel {
     /// Shows another month, the cursor on the same day of it if it has that one.
     void showMonthOf(const CalendarDay& other);
     void refresh();
+    /// The first day of each month of the shown year.
+    [[nodiscard]] std::vector<CalendarDay> firstDays() const;
+    [[nodiscard]] bool isMonthBeforeMinimum(CalendarDay day) const;
     [[nodiscard]] int leadingCells() const;
     /// The day of the shown month by its number, which may be beyond the month's.
     [[nodiscard]] CalendarDay day(int number) const;

@@ -4,13 +4,31 @@ import Kovamo.Controls
 import Kovamo.Forms
 import Kovamo.Desktop
 
-/*! A month's days under the names of the week's, and the way to the months around it. */
+/*! A month's days under the names of the week's, and the way to other months: to those around it, or
+    by a press on the month's name to all of a year. */
 Column {
     id: grid
 
     required property MonthCalendar calendar
+    /*! Whether a year's months are shown in place of a month's days. */
+    property bool choosesMonth: false
     readonly property real cellWidth: width / 7
     readonly property real cellHeight: Math.max(Metrics.rowHeight, sizer.height + Metrics.step * 3)
+
+    /*! Shows the month, or the year, before the one that is shown or after it. */
+    function turn(way: int, byYear: bool) {
+        if (byYear)
+            grid.calendar.moveYears(way);
+        else if (way < 0)
+            grid.calendar.previousMonth();
+        else
+            grid.calendar.nextMonth();
+    }
+
+    function showDays() {
+        grid.choosesMonth = false;
+        days.forceActiveFocus(Qt.TabFocusReason);
+    }
 
     bottomPadding: Metrics.step * 2
 
@@ -23,16 +41,40 @@ Column {
         height: Math.max(Metrics.rowHeight, title.implicitHeight)
         width: parent.width
 
-        PlainText {
+        Pressable {
             id: title
 
             anchors.left: parent.left
             anchors.leftMargin: Metrics.step * 3
-            anchors.right: buttons.left
             anchors.verticalCenter: parent.verticalCenter
-            font: TextStyles.headline
-            fontSizeMode: Text.HorizontalFit
-            text: grid.calendar.title
+            description: grid.choosesMonth ? qsTr("Shows the month's days") : qsTr("Shows the months of the year")
+            text: grid.choosesMonth ? grid.calendar.year : grid.calendar.title
+            width: Math.min(name.implicitWidth + unfold.width, buttons.x - x)
+
+            onClicked: grid.choosesMonth = !grid.choosesMonth
+
+            PlainText {
+                id: name
+
+                Accessible.ignored: true
+                anchors.left: parent.left
+                anchors.right: unfold.left
+                anchors.verticalCenter: parent.verticalCenter
+                font: TextStyles.headline
+                fontSizeMode: Text.HorizontalFit
+                text: title.text
+            }
+            SystemImage {
+                id: unfold
+
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+                color: SystemColors.accent
+                height: Metrics.symbolSize * 0.75
+                name: "chevron.right"
+                rotation: grid.choosesMonth ? 270 : 90
+                width: height
+            }
         }
         Row {
             id: buttons
@@ -40,11 +82,11 @@ Column {
             anchors.right: parent.right
 
             BarButton {
-                enabled: grid.calendar.canGoBack
+                enabled: grid.choosesMonth ? grid.calendar.firstMonth === 0 : grid.calendar.canGoBack
                 symbol: LayoutMirroring.enabled ? "chevron.right" : "chevron.left"
-                text: qsTr("Previous month")
+                text: grid.choosesMonth ? qsTr("Previous year") : qsTr("Previous month")
 
-                onClicked: grid.calendar.previousMonth()
+                onClicked: grid.turn(-1, grid.choosesMonth)
                 onEnabledChanged: if (!enabled && focus)
                     next.forceActiveFocus(Qt.TabFocusReason)
             }
@@ -52,16 +94,24 @@ Column {
                 id: next
 
                 symbol: LayoutMirroring.enabled ? "chevron.left" : "chevron.right"
-                text: qsTr("Next month")
+                text: grid.choosesMonth ? qsTr("Next year") : qsTr("Next month")
 
-                onClicked: grid.calendar.nextMonth()
+                onClicked: grid.turn(1, grid.choosesMonth)
             }
         }
+    }
+    MonthChoice {
+        calendar: grid.calendar
+        visible: grid.choosesMonth
+        width: parent.width
+
+        onChosen: grid.showDays()
     }
     EqualRow {
         id: weekdays
 
         model: grid.calendar.weekdays
+        visible: !grid.choosesMonth
         width: parent.width
 
         Item {
@@ -98,15 +148,9 @@ Column {
         Keys.onUpPressed: grid.calendar.moveCursor(-7)
         activeFocusOnTab: true
         implicitHeight: grid.calendar.weeks * grid.cellHeight
+        visible: !grid.choosesMonth
         width: parent.width
 
-        Keys.onPressed: event => {
-            event.accepted = event.key === Qt.Key_PageUp || event.key === Qt.Key_PageDown;
-            if (event.key === Qt.Key_PageUp)
-                grid.calendar.previousMonth();
-            else if (event.key === Qt.Key_PageDown)
-                grid.calendar.nextMonth();
-        }
         onActivated: grid.calendar.pick(grid.calendar.cursor)
 
         Grid {

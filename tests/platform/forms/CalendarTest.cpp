@@ -5,6 +5,7 @@
 
 #include <QSignalSpy>
 #include <cmath>
+#include <set>
 
 namespace kovamo {
 namespace {
@@ -87,6 +88,14 @@ TEST(MonthCalendar, GoesOverMonthsThatOnlySomeYearsHave) {
             EXPECT_EQ(calendar.title(), title) << locale;
             calendar.previousMonth();
         }
+        std::set<QString> titles;
+        for (int year = 0; year < 3; ++year, calendar.moveYears(1))
+            for (int month = 0; month < calendar.months().size(); ++month) {
+                calendar.showMonth(month);
+                EXPECT_EQ(calendar.month(), month) << locale;
+                titles.insert(calendar.title());
+            }
+        EXPECT_EQ(titles.size(), 37U) << locale << ": one of three years has a leap month";
     }
 }
 
@@ -103,6 +112,15 @@ TEST(MonthCalendar, OffersNothingBeforeTheDayOfTheMinimum) {
         calendar.moveCursor(days);
         EXPECT_EQ(calendar.cursor(), 3 + 14);
     }
+    EXPECT_EQ(calendar.firstMonth(), 4);
+    calendar.showMonth(3);
+    EXPECT_EQ(calendar.month(), 4);
+    calendar.moveYears(10);
+    EXPECT_EQ(calendar.firstMonth(), 0);
+    calendar.showMonth(3);
+    EXPECT_EQ(calendar.title(), QStringLiteral("April 2034"));
+    calendar.moveYears(-10);
+    EXPECT_EQ(calendar.title(), QStringLiteral("May 2024")) << "April is before the minimum";
     calendar.setMinimumMoment(moment("2024-05-20"));
     calendar.moveCursor(1);
     EXPECT_EQ(calendar.cursor(), 3 + 15) << "from before the minimum the way leads on";
@@ -124,8 +142,12 @@ TEST(DateField, UnfoldsAMonthAndPicksADay) {
     stage.press(Qt::Key_Return);
     EXPECT_FALSE(stage.get("unfolded", "field").toBool());
     stage.press(Qt::Key_Return);
-    for (int tabs = 0; tabs < 3; ++tabs)
-        stage.press(Qt::Key_Tab);
+    stage.press(Qt::Key_PageDown);
+    stage.click(stage.showing("June 2024"));
+    stage.press(Qt::Key_PageUp);
+    stage.press(Qt::Key_PageDown);
+    stage.click(stage.showing("May"));
+    EXPECT_TRUE(stage.showing("May 2024"));
     for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_Down, Qt::Key_Right, Qt::Key_Return})
         stage.press(key);
     EXPECT_EQ(words(stage.get("day").toDouble()), "2024-05-08 10:00:00.000") << "April has 30";
