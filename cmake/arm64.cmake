@@ -8,3 +8,5 @@ set(CMAKE_CROSSCOMPILING_EMULATOR qemu-aarch64)
 set(QT_HOST_PATH /usr)
 set(QT_HOST_PATH_CMAKE_DIR /usr/lib/x86_64-linux-gnu/cmake)
 set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE arm64)
+# Otherwise pkg-config names the libraries of this machine.
+set(ENV{PKG_CONFIG_LIBDIR} /usr/lib/aarch64-linux-gnu/pkgconfig:/usr/share/pkgconfig)
