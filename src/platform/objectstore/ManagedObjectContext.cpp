@@ -48,9 +48,11 @@ std::vector<ObjectID> ManagedObjectContext::selectIDs(const FetchRequest& reques
     mergeChanges();
     if (m_unsaved.isEmpty())
         return m_store.select(request);
-    FetchRequest unlimited = request;
-    unlimited.fetchLimit.reset();
-    std::vector<ObjectID> ids = m_store.select(unlimited);
+    // What is pending takes the place of no more records than that.
+    FetchRequest wider = request;
+    if (wider.fetchLimit)
+        *wider.fetchLimit += static_cast<int>(m_unsaved.updated.size() + m_unsaved.deleted.size());
+    std::vector<ObjectID> ids = m_store.select(wider);
     mergePending(request, ids);
     if (request.fetchLimit)
         ids.resize(std::min(ids.size(), static_cast<std::size_t>(*request.fetchLimit)));
