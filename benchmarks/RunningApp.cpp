@@ -21,6 +21,7 @@ std::unique_ptr<PersistentContainer> loaded() {
         if (error)
             unresolvedError(*error);
     });
+    container->viewContext().setAutomaticallyMergesChangesFromParent(true);
     return container;
 }
 
