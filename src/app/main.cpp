@@ -161,6 +161,7 @@ int main(int argc, char** argv) {
     if (options.pictures && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     chooseRenderer();
+    OnScreenKeyboard::takeFromQt();
     int qtArguments = 1;
     const QGuiApplication application(qtArguments, argv);
     setUpApplication();

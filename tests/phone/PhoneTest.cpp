@@ -15,7 +15,7 @@ namespace kovamo {
 namespace {
 
 constexpr QSize upright(360, 720), turned(720, 360);
-constexpr QRgb white = 0xFFFFFFFF, accent = 0xFF007AFF, ground = 0xFFF2F2F7;
+constexpr QRgb white = 0xFFFFFFFF, accent = 0xFF007AFF, black = 0xFF000000, ground = 0xFFF2F2F7;
 
 /// The app in a phone's shell: a compositor without a display, an on-screen keyboard, a finger.
 class Phone : public testing::Test {
@@ -38,6 +38,7 @@ class Phone : public testing::Test {
                                                {"GSETTINGS_BACKEND", "keyfile"},
                                                {"LC_ALL", "en_US.UTF-8"},
                                                {"QT_QPA_PLATFORM", "wayland"},
+                                               {"TMPDIR", scratch.path()}, // the app is killed
                                                {"WAYLAND_DISPLAY", "wayland-0"},
                                                {"WLR_BACKENDS", "headless"},
                                                {"WLR_LIBINPUT_NO_DEVICES", "1"},
@@ -107,7 +108,7 @@ class Phone : public testing::Test {
                 if (image.size() != size || image.pixel(corner) != white)
                     return false;
             return contains(image, {size.width() - 44, 0, 44, 44}, accent) &&
-                   contains(image, {0, bottom - 50, size.width(), 50}, 0xFF000000);
+                   contains(image, {0, bottom - 50, size.width(), 50}, black);
         });
     }
     static bool contains(const QImage& image, const QRect& area, QRgb color) {
@@ -160,6 +161,11 @@ TEST_F(Phone, ShowsTheAppUprightAndTurnedWithTheKeyboardUp) {
     EXPECT_TRUE(fills(turned));
     turn("normal");
     ASSERT_TRUE(fills(upright));
+    const auto isFrameShown = [&](int x) { return contains(screen(), {x, 670, 100, 50}, black); };
+    ASSERT_TRUE(isFrameShown(10) && !isFrameShown(250));
+    finger->tap({300, 695}, upright);
+    EXPECT_TRUE(soon([&] { return isFrameShown(250); })) << "the tap is lost";
+    EXPECT_EQ(keyboardShown(), u"false") << "nothing takes text";
 
     finger->tap({338, 22}, upright);
     ASSERT_TRUE(soon([&] { return keyboardShown() == u"true"; }));

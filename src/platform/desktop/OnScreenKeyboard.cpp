@@ -14,6 +14,10 @@ namespace {
 /// offer.
 const QVersionNumber firstWithTextInput(6, 7);
 
+constexpr const char* inputMethod = "QT_IM_MODULE";
+/// Qt's own input method, which speaks to no keyboard.
+constexpr const char* ownInputMethod = "compose";
+
 bool takesText(QObject* object) {
     if (!object)
         return false;
@@ -24,10 +28,18 @@ bool takesText(QObject* object) {
 
 } // namespace
 
+void OnScreenKeyboard::takeFromQt() {
+    const QList<QByteArray> desktops = qgetenv("XDG_CURRENT_DESKTOP").split(':');
+    if (desktops.contains("Phosh") && qEnvironmentVariableIsEmpty(inputMethod) &&
+        qEnvironmentVariableIsEmpty("QT_IM_MODULES"))
+        qputenv(inputMethod, ownInputMethod);
+}
+
 bool OnScreenKeyboard::isCalledByApp() {
+    const QByteArray method = qgetenv(inputMethod);
     return QGuiApplication::platformName().startsWith(u"wayland") &&
-           QLibraryInfo::version() < firstWithTextInput &&
-           qEnvironmentVariableIsEmpty("QT_IM_MODULE");
+           (method.isEmpty() ? QLibraryInfo::version() < firstWithTextInput
+                             : method == ownInputMethod);
 }
 
 OnScreenKeyboard::OnScreenKeyboard(const QDBusConnection& bus) : m_bus(bus) {

@@ -18,8 +18,13 @@ class OnScreenKeyboard : public QObject {
     ~OnScreenKeyboard() override;
     Q_DISABLE_COPY_MOVE(OnScreenKeyboard)
 
-    /// Whether the keyboard is for the app to call: on Wayland, with a Qt older than the protocol
-    /// by which compositors learn of text fields, and no input method named in the environment.
+    /// In Phosh, keeps Qt from calling up the keyboard, unless the environment names an input
+    /// method: Qt 6.8 tells it of text wherever the focus is, and the keyboard comes with each tap.
+    /// Requires: the QGuiApplication is not made yet.
+    static void takeFromQt();
+
+    /// Whether the keyboard is for the app to call: on Wayland, where it was taken from Qt, or Qt
+    /// is older than the protocol by which compositors learn of text fields.
     [[nodiscard]] static bool isCalledByApp();
 
   protected:
