@@ -40,6 +40,7 @@ class Visit {
     void click(const QString& name, const QString& description = {}) {
         ASSERT_TRUE(soon([&] { return named(*m_window, name, description); }))
             << name.toStdString();
+        (void)m_window->grabWindow(); // lays out what has just come
         kovamo::click(*m_window, middle(named(*m_window, name, description)));
     }
     void clickBesideTheSheet() { kovamo::click(*m_window, {200, 10}); }

@@ -41,6 +41,9 @@ class Bus : public QObject, public testing::Test {
         environment.insert("DISPLAY", u':' + display.address);
         environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
         environment.insert("QT_QPA_PLATFORM", "xcb");
+        // It is killed in the end: what it leaves goes with the world.
+        environment.insert("TMPDIR", World::folder());
+        environment.insert("XDG_RUNTIME_DIR", World::folder());
         app.setProcessEnvironment(environment);
         app.start(QStringLiteral(KOVAMO_EXECUTABLE), {QStringLiteral("--demo")});
     }
