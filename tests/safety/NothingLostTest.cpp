@@ -2,8 +2,8 @@
 #include "editing/TransactionsView.h"
 #include "ledger/TransactionContainer.h"
 #include "model/PersistenceController.h"
-#include "platform/objectstore/store/BulkWrite.h"
 #include "platform/objectstore/file/KeptCopies.h"
+#include "platform/objectstore/store/BulkWrite.h"
 #include "support/Book.h"
 #include "support/FastQueue.h"
 

@@ -49,12 +49,12 @@ Column {
             anchors.verticalCenter: parent.verticalCenter
             description: grid.choosesMonth ? qsTr("Shows the month's days") : qsTr("Shows the months of the year")
             text: grid.choosesMonth ? grid.calendar.year : grid.calendar.title
-            width: Math.min(name.implicitWidth + unfold.width, buttons.x - x)
+            width: Math.min(monthName.implicitWidth + unfold.width, buttons.x - x)
 
             onClicked: grid.choosesMonth = !grid.choosesMonth
 
             PlainText {
-                id: name
+                id: monthName
 
                 Accessible.ignored: true
                 anchors.left: parent.left
@@ -124,7 +124,7 @@ Column {
             width: weekdays.cellWidth
 
             PlainText {
-                id: name
+                id: monthName
 
                 anchors.centerIn: parent
                 color: SystemColors.secondaryLabel
