@@ -49,7 +49,7 @@ Column {
             anchors.verticalCenter: parent.verticalCenter
             description: grid.choosesMonth ? qsTr("Shows the month's days") : qsTr("Shows the months of the year")
             text: grid.choosesMonth ? grid.calendar.year : grid.calendar.title
-            width: Math.min(monthName.implicitWidth + unfold.width, buttons.x - x)
+            width: Math.min(monthName.implicitWidth + Metrics.step + unfold.width, parent.width - buttons.width - Metrics.step * 3)
 
             onClicked: grid.choosesMonth = !grid.choosesMonth
 
@@ -59,6 +59,7 @@ Column {
                 Accessible.ignored: true
                 anchors.left: parent.left
                 anchors.right: unfold.left
+                anchors.rightMargin: Metrics.step
                 anchors.verticalCenter: parent.verticalCenter
                 font: TextStyles.headline
                 fontSizeMode: Text.HorizontalFit
@@ -124,7 +125,7 @@ Column {
             width: weekdays.cellWidth
 
             PlainText {
-                id: monthName
+                id: name
 
                 anchors.centerIn: parent
                 color: SystemColors.secondaryLabel
