@@ -38,7 +38,7 @@ void ReviewHandler::requestReviewIfAppropriate() {
     const QString countKey = QStringLiteral("appStartUpsCountKey");
     UserDefaults& defaults = UserDefaults::standard();
     const std::int64_t count = checkedAdd(defaults.integer(countKey), std::int64_t{1});
-    defaults.setSoon(countKey, count);
+    defaults.set(countKey, count);
 
     const QString version = bundleVersion();
     // Nothing writes this key, on purpose: the platform alone limits how often a prompt shows.

@@ -39,8 +39,6 @@ void makeFolder(const QString& path) {
 
 UserDefaults::UserDefaults()
     : m_settings(std::make_unique<QSettings>(preferencesPath(), QSettings::IniFormat)) {
-    m_later.setSingleShot(true);
-    m_later.callOnTimeout([this] { writePending(); });
     // QSettings parses a section when it is first asked for; only then status() knows of faults.
     (void)m_settings->allKeys();
     if (m_settings->status() == QSettings::NoError)
@@ -49,9 +47,7 @@ UserDefaults::UserDefaults()
     report("read");
 }
 
-UserDefaults::~UserDefaults() {
-    writePending();
-}
+UserDefaults::~UserDefaults() = default;
 
 UserDefaults& UserDefaults::standard() {
     return *standardInstance();
@@ -62,20 +58,16 @@ void UserDefaults::reopenStandard() {
 }
 
 std::int64_t UserDefaults::integer(const QString& key) const {
-    return value(key).toString().toLongLong();
+    return m_settings->value(key).toString().toLongLong();
 }
 
 std::optional<QString> UserDefaults::string(const QString& key) const {
-    const QVariant found = value(key);
-    return found.canConvert<QString>() ? std::optional(found.toString()) : std::nullopt;
+    const QVariant value = m_settings->value(key);
+    return value.canConvert<QString>() ? std::optional(value.toString()) : std::nullopt;
 }
 
 bool UserDefaults::boolean(const QString& key) const {
-    return value(key).toString() == QLatin1String("true");
-}
-
-QVariant UserDefaults::value(const QString& key) const {
-    return m_pending.contains(key) ? m_pending.value(key) : m_settings->value(key);
+    return m_settings->value(key).toString() == QLatin1String("true");
 }
 
 void UserDefaults::set(const QString& key, std::int64_t value) {
@@ -90,25 +82,12 @@ void UserDefaults::set(const QString& key, const QString& value) {
     write(key, value);
 }
 
-void UserDefaults::setSoon(const QString& key, std::int64_t value) {
-    constexpr std::chrono::milliseconds aMoment(500);
-    m_pending.insert(key, QVariant::fromValue<qlonglong>(value));
-    m_later.start(aMoment);
-}
-
-void UserDefaults::writePending() {
-    const QVariantMap pending = std::exchange(m_pending, {});
-    for (auto entry = pending.begin(); entry != pending.end(); ++entry)
-        write(entry.key(), entry.value());
-}
-
 void UserDefaults::write(const QString& key, const QVariant& value) {
     const QString folder = QFileInfo(m_settings->fileName()).path();
     makeFolder(folder);
     if (std::exchange(m_isBroken, false))
         setAside();
     m_settings->setValue(key, value);
-    m_pending.remove(key);
     m_settings->sync();
     syncFolder(folder);
     if (m_settings->status() != QSettings::NoError)

@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QTimer>
-#include <QVariantMap>
+#include <QString>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -41,20 +40,12 @@ class UserDefaults {
     void set(const QString& key, bool value);
     void set(const QString& key, const QString& value);
 
-    /// Sets a value that counts at once, and is on the disk a moment later, at the latest when the
-    /// preferences are closed: the disk takes its time, for which nobody is to wait.
-    void setSoon(const QString& key, std::int64_t value);
-
   private:
-    [[nodiscard]] QVariant value(const QString& key) const;
-    void writePending();
     void setAside() const;
     void write(const QString& key, const QVariant& value);
     void report(const char* trouble);
 
     std::unique_ptr<QSettings> m_settings;
-    QVariantMap m_pending;
-    QTimer m_later;
     bool m_isBroken = false;
     bool m_reported = false;
 };

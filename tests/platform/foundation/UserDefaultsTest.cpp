@@ -61,18 +61,5 @@ TEST(UserDefaults, KeepsEveryKindForTheNextStartInAFolderOfItsOwner) {
     EXPECT_EQ(QFileInfo(folder()).permissions() & 0x0077, 0);
 }
 
-TEST(UserDefaults, WritesALittleLaterWhatNobodyIsToWaitFor) {
-    UserDefaults& defaults = UserDefaults::standard();
-    defaults.setSoon(key, 7);
-    EXPECT_EQ(defaults.integer(key), 7);
-    EXPECT_EQ(UserDefaults().integer(key), 0) << "not on the disk yet";
-    defaults.set(key, std::int64_t{8});
-    UserDefaults::reopenStandard();
-    EXPECT_EQ(UserDefaults::standard().integer(key), 8) << "what was set last";
-    UserDefaults::standard().setSoon(key, 9);
-    UserDefaults::reopenStandard();
-    EXPECT_EQ(UserDefaults::standard().integer(key), 9) << "written when they were closed";
-}
-
 } // namespace
 } // namespace kovamo
