@@ -15,7 +15,8 @@ Grid {
     columns: 3
 
     Repeater {
-        model: choice.calendar.months
+        // Hidden, its cells would ask the calendar for every month at each turn of the page.
+        model: choice.visible ? choice.calendar.months : []
 
         Pressable {
             id: month
