@@ -4,6 +4,7 @@
 #include "Output.h"
 #include "Progress.h"
 #include "exchange/Import.h"
+#include "ledger/TransactionCheck.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -127,6 +128,12 @@ ImportReport take(const Call& call, Input& input, const ImportOptions& options) 
 ExitStatus run(const Call& call) {
     Input input(call.operand());
     ImportOptions options = optionsOf(call, input);
+    qint64 unshown = 0;
+    // What no screen can show comes in, too: each export can be imported as it is.
+    options.objection = [&unshown, check = TransactionCheck()](std::span<const Value> values) {
+        unshown += check.faultsOf(values).isEmpty() ? 0 : 1;
+        return QString();
+    };
     ImportReport result;
     {
         Progress progress("Importing", input.file().isSequential() ? 0 : input.file().size());
@@ -141,6 +148,11 @@ ExitStatus run(const Call& call) {
     if (result.isRefused)
         throw CommandFailure{QStringLiteral("Nothing was imported.")};
     print(summaryOf(result));
+    if (unshown > 0)
+        std::fprintf(stderr,
+                     "No screen can show %lld of these records; kovamo check names those that are "
+                     "stored.\n",
+                     static_cast<long long>(unshown));
     return ExitStatus::done;
 }
 

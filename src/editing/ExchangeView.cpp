@@ -49,8 +49,7 @@ ImportOptions optionsFor(const QString& path, const std::atomic<bool>& isStopped
     options.format = formatOfFile(path).value_or(ExchangeFormat::csv);
     // A command takes in what no screen can show, too; here the screens would end over it.
     options.objection = [check = TransactionCheck()](std::span<const Value> values) {
-        const std::vector<std::optional<Value>> record(values.begin(), values.end());
-        return check.faultsOf(record).join(QStringLiteral("; "));
+        return check.faultsOf(values).join(QStringLiteral("; "));
     };
     options.progress = [&isStopped](qint64) { return !isStopped; };
     return options;

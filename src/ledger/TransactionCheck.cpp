@@ -36,6 +36,11 @@ QStringList TransactionCheck::faultsOf(StoreInspection::Record record) const {
     return faults;
 }
 
+QStringList TransactionCheck::faultsOf(std::span<const Value> values) const {
+    const std::vector<std::optional<Value>> record(values.begin(), values.end());
+    return faultsOf(record);
+}
+
 void TransactionCheck::checkRecurrence(StoreInspection::Record record, QStringList& faults) const {
     const auto* type = valueOf<QString>(record, Transaction::RecurringType);
     const auto known = type ? recurringType(*type) : std::nullopt;

@@ -5,6 +5,7 @@
 #include "platform/objectstore/store/StoreInspection.h"
 
 #include <array>
+#include <span>
 
 namespace kovamo {
 
@@ -22,6 +23,8 @@ class TransactionCheck {
 
     /// What is wrong with a record, a few words for each fault.
     [[nodiscard]] QStringList faultsOf(StoreInspection::Record record) const;
+    /// The same of a record's values, one for each attribute.
+    [[nodiscard]] QStringList faultsOf(std::span<const Value> values) const;
 
   private:
     void checkRecurrence(StoreInspection::Record record, QStringList& faults) const;

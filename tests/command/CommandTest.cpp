@@ -119,6 +119,9 @@ TEST(Import, TakesInWhatWasExportedAndNothingOfABadFile) {
     EXPECT_EQ(skipped.exitCode(), 0);
     EXPECT_TRUE(skipped.output.contains("1 that cannot be read")) << skipped.output.data();
     EXPECT_TRUE(Ended(QStringLiteral("export")).output.contains(",101,"));
+    const Ended untitled(QStringLiteral("import"),
+                         QByteArray(good).replace(",title,🙂", ",,🙂"));
+    EXPECT_TRUE(untitled.errors.contains("No screen can show 2 of")) << untitled.errors.data();
 }
 
 TEST(Check, NamesEachRecordThatAScreenCannotShow) {
