@@ -45,11 +45,11 @@ Column {
             id: title
 
             anchors.left: parent.left
-            anchors.leftMargin: Metrics.step * 3
+            anchors.leftMargin: Metrics.step
             anchors.verticalCenter: parent.verticalCenter
             description: grid.choosesMonth ? qsTr("Shows the month's days") : qsTr("Shows the months of the year")
             text: grid.choosesMonth ? grid.calendar.year : grid.calendar.title
-            width: Math.min(monthName.implicitWidth + Metrics.step + unfold.width, parent.width - buttons.width - Metrics.step * 3)
+            width: Math.min(monthName.implicitWidth + unfold.width + Metrics.step * 5, parent.width - buttons.width - Metrics.step)
 
             onClicked: grid.choosesMonth = !grid.choosesMonth
 
@@ -58,6 +58,7 @@ Column {
 
                 Accessible.ignored: true
                 anchors.left: parent.left
+                anchors.leftMargin: Metrics.step * 2
                 anchors.right: unfold.left
                 anchors.rightMargin: Metrics.step
                 anchors.verticalCenter: parent.verticalCenter
@@ -69,6 +70,7 @@ Column {
                 id: unfold
 
                 anchors.right: parent.right
+                anchors.rightMargin: Metrics.step * 2
                 anchors.verticalCenter: parent.verticalCenter
                 color: SystemColors.accent
                 height: Metrics.symbolSize * 0.75
