@@ -13,7 +13,7 @@ Sheet {
     required property ContentState content
 
     presented: content.showTransactions
-    title: qsTr("Transactions")
+    title: content.transactionsView ? content.transactionsView.navigationTitle : ""
 
     onClosed: content.transactionsDidClose()
     onDismissed: content.showTransactions = false

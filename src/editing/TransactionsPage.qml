@@ -14,7 +14,7 @@ FocusScope {
     /*! Whether neither a form nor a sheet lies over the list. */
     required property bool isOnTop
     readonly property TransactionSearch search: transactions.search
-    property string navigationTitle: qsTr("Transactions")
+    readonly property string navigationTitle: transactions.navigationTitle
     /*! The list's first row in sight and its current one, as they were when the search began. */
     property int topBefore: 0
     property int currentBefore: 0

@@ -16,6 +16,7 @@ class TransactionsView : public LiveFetch {
     Q_OBJECT
     QML_NAMED_ELEMENT(TransactionsState)
     QML_UNCREATABLE("Made by the main screen")
+    Q_PROPERTY(QString navigationTitle READ navigationTitle CONSTANT)
     /// The form of the transaction opened last.
     Q_PROPERTY(kovamo::AddTransactionView* form READ form NOTIFY formChanged)
     Q_PROPERTY(kovamo::ExchangeView* exchange READ exchange CONSTANT)
@@ -29,6 +30,8 @@ class TransactionsView : public LiveFetch {
 
     /// Requires: `viewContext` outlives the screen.
     explicit TransactionsView(ManagedObjectContext& viewContext);
+
+    [[nodiscard]] static QString navigationTitle() { return tr("Transactions"); }
 
     [[nodiscard]] AddTransactionView* form() const { return m_form.get(); }
 
