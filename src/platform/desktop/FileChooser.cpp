@@ -1,7 +1,6 @@
 #include "FileChooser.h"
 
 #include <QDBusArgument>
-#include <QDBusConnection>
 #include <QDBusPendingCallWatcher>
 #include <QGuiApplication>
 #include <QUuid>
@@ -48,8 +47,12 @@ void FileChooser::save(const QString& title, const QString& name) {
     ask(true, title, name);
 }
 
+QDBusConnection FileChooser::bus() const {
+    return m_ownBus ? *m_ownBus : QDBusConnection::sessionBus();
+}
+
 void FileChooser::ask(bool saves, const QString& title, const QString& name) {
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = this->bus();
     if (!bus.isConnected()) {
         Q_EMIT unavailable(saves, title, name);
         return;
@@ -57,7 +60,7 @@ void FileChooser::ask(bool saves, const QString& title, const QString& name) {
     takeBack();
     m_saves = saves;
     // The answer may come before the call returns: its path is known from the token.
-    const auto token = u"kovamo" + QUuid::createUuid().toString(QUuid::Id128);
+    const QString token = u"kovamo" + QUuid::createUuid().toString(QUuid::Id128);
     const QString sender = bus.baseService().mid(1).replace(u'.', u'_');
     m_request = u"/org/freedesktop/portal/desktop/request/" + sender + u'/' + token;
     bus.connect(portal(), m_request, request(), response(), this, SLOT(answer(QDBusMessage)));
@@ -65,7 +68,7 @@ void FileChooser::ask(bool saves, const QString& title, const QString& name) {
         portal(), QStringLiteral("/org/freedesktop/portal/desktop"),
         QStringLiteral("org.freedesktop.portal.FileChooser"),
         saves ? QStringLiteral("SaveFile") : QStringLiteral("OpenFile"));
-    QVariantMap options{{QStringLiteral("handle_token"), QString(token)},
+    QVariantMap options{{QStringLiteral("handle_token"), token},
                         {QStringLiteral("modal"), true}};
     if (saves)
         options.insert(QStringLiteral("current_name"), name);
@@ -81,7 +84,7 @@ void FileChooser::ask(bool saves, const QString& title, const QString& name) {
 void FileChooser::takeBack() {
     if (m_request.isEmpty())
         return;
-    QDBusConnection bus = QDBusConnection::sessionBus();
+    QDBusConnection bus = this->bus();
     bus.disconnect(portal(), m_request, request(), response(), this, SLOT(answer(QDBusMessage)));
     // Otherwise its dialog stays open, and nobody hears what is chosen there.
     bus.send(

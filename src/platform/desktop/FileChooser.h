@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QObject>
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
+#include <optional>
 
 namespace kovamo {
 
@@ -15,6 +17,8 @@ class FileChooser : public QObject {
 
   public:
     explicit FileChooser(QObject* parent = nullptr) : QObject(parent) {}
+    /// One that asks on `bus` instead of the session's.
+    explicit FileChooser(const QDBusConnection& bus) : m_ownBus(bus) {}
     /// Takes back the question that is open.
     ~FileChooser() override;
 
@@ -36,6 +40,7 @@ class FileChooser : public QObject {
     void unavailable(bool saves, const QString& title, const QString& name);
 
   private:
+    [[nodiscard]] QDBusConnection bus() const;
     void ask(bool saves, const QString& title, const QString& name);
     void takeBack();
 
@@ -43,6 +48,7 @@ class FileChooser : public QObject {
     void answer(const QDBusMessage& message);
 
   private:
+    std::optional<QDBusConnection> m_ownBus;
     bool m_saves = false;
     QString m_request;
 };

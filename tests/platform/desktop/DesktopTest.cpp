@@ -1,9 +1,12 @@
 #include "platform/desktop/DesktopSettings.h"
+#include "platform/desktop/FileChooser.h"
 #include "platform/desktop/OnScreenKeyboard.h"
 #include "support/Server.h"
 #include "support/Stage.h"
 
+#include <QDBusContext>
 #include <QDBusMessage>
+#include <QDBusObjectPath>
 #include <QDBusVariant>
 
 namespace kovamo {
@@ -57,6 +60,42 @@ TEST(DesktopSettings, AreAskedForAndFollowed) {
     change("org.gnome.desktop.interface", "enable-animations", true);
     change("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
     EXPECT_TRUE(become(false, false, 2));
+}
+
+/// Answers each question before its call returns.
+class FilePortal : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.portal.FileChooser")
+  public Q_SLOTS:
+    QDBusObjectPath OpenFile(const QString&, const QString&, const QVariantMap& options) {
+        const QString path = u"/org/freedesktop/portal/desktop/request/" +
+                             message().service().mid(1).replace('.', '_') + '/' +
+                             options["handle_token"].toString();
+        QDBusMessage response = QDBusMessage::createSignal(
+            path, QStringLiteral("org.freedesktop.portal.Request"), "Response");
+        const QVariantMap results{{"uris", QStringList{"file:///a%20b.csv"}}};
+        connection().send(response << 0U << results);
+        return QDBusObjectPath(path);
+    }
+    QDBusObjectPath SaveFile(const QString& window, const QString& title,
+                             const QVariantMap& options) {
+        return OpenFile(window, title, options);
+    }
+};
+
+TEST(FileChooser, TellsWhatIsChosen) {
+    FilePortal portal;
+    Bus bus(QStringLiteral("org.freedesktop.portal.Desktop"),
+            QStringLiteral("/org/freedesktop/portal/desktop"), portal);
+    FileChooser chooser(bus.app);
+    QString told;
+    QObject::connect(&chooser, &FileChooser::opened, [&](auto& path) { told += u"read " + path; });
+    QObject::connect(&chooser, &FileChooser::saved, [&](auto& path) { told += u"write " + path; });
+    chooser.open(QStringLiteral("Import"));
+    EXPECT_TRUE(Stage::soon([&] { return told == u"read /a b.csv"; })) << qPrintable(told);
+    told.clear();
+    chooser.save(QStringLiteral("Export"), QStringLiteral("x.csv"));
+    EXPECT_TRUE(Stage::soon([&] { return told == u"write /a b.csv"; })) << qPrintable(told);
 }
 
 class Keyboard : public QObject {
