@@ -47,6 +47,38 @@ TEST(SwipeRow, OnceOpenDeletesOrCloses) {
     EXPECT_EQ(stage.log(), "clicked 1delete 0");
 }
 
+TEST(SwipeRow, ClosesAsTheWheelMovesItsList) {
+    Stage stage(R"(
+        Sheet {
+            objectName: 'sheet'; title: 'rows'; presented: true
+            RowList {
+                objectName: 'list'; anchors.fill: parent; model: 40
+                delegate: SwipeRow {
+                    required property int index
+                    objectName: 'row' + index; focus: ListView.isCurrentItem
+                    onActiveFocusChanged: if (activeFocus) ListView.view.currentIndex = index
+                }
+            }
+        })");
+    EXPECT_TRUE(Stage::soon([&] { return stage.get("position", "sheet") == 1; }));
+    for (const int y : {-120, 120}) {
+        const QPoint row = middle(stage.item("row5"));
+        stage.drag(row, {-80, 0});
+        EXPECT_GT(stage.get("offset", "row5").toDouble(), 0);
+        const QPoint place = row + QPoint(0, y + 120);
+        QWheelEvent wheel(place, place, {}, {0, y}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        wheel.setTimestamp(QTest::lastMouseTimestamp += 100);
+        const double before = stage.get("contentY", "list").toDouble();
+        QGuiApplication::sendEvent(stage.window(), &wheel);
+        EXPECT_TRUE(Stage::soon([&] {
+            return stage.get("contentY", "list").toDouble() != before &&
+                   stage.get("offset", "row5").toDouble() == 0 &&
+                   !stage.get("moving", "list").toBool();
+        })) << y;
+    }
+}
+
 TEST(SwipeRow, TakesATapForOneWhereTheAppWasBusy) {
     Stage stage(rows, false);
     QTest::mousePress(stage.window(), Qt::LeftButton, {}, {100, 20});

@@ -2,7 +2,7 @@ import QtQuick
 import Kovamo.Controls
 
 /*! A list of rows to walk along by the keyboard: by the row, by the page, to either end. The row
-    that shows the keyboard's ring is in sight. */
+    that shows the keyboard's ring is in sight; one that is pulled aside closes as the list moves. */
 ListView {
     id: list
 
@@ -42,6 +42,7 @@ ListView {
     }
 
     onHeightChanged: showMarked()
+    onMovementStarted: (list.currentItem as SwipeRow)?.close()
 
     Connections {
         function onVisualFocusChanged() {
