@@ -46,6 +46,36 @@ FormRow {
         field.follow();
     }
 
+    /*! Shows the menu near a point of the text. A finger keeps its on-screen keyboard, which goes
+        with the field's focus. */
+    function showMenu(x: real, y: real, byFinger: bool) {
+        input.forceActiveFocus(Qt.MouseFocusReason);
+        if (!menu.item)
+            menu.setSource(Qt.resolvedUrl("EditMenu.qml"), {
+                    "textField": input
+                });
+        (menu.item as EditMenu).show(x, y + Metrics.step, !byFinger);
+    }
+
+    /*! Shows the menu for the keys that ask for it; false for any other. */
+    function answer(key: int, modifiers: int): bool {
+        const asked = key === Qt.Key_Menu || key === Qt.Key_F10 && modifiers === Qt.ShiftModifier;
+        if (asked)
+            showMenu(input.cursorRectangle.x, input.height, false);
+        return asked;
+    }
+
+    /*! Selects the word that a finger is held on, and shows the menu; false where it is no finger. */
+    function hold(x: real, y: real): bool {
+        if (!finger.pressed)
+            return false;
+        input.forceActiveFocus(Qt.MouseFocusReason);
+        input.cursorPosition = input.positionAt(x, y);
+        input.selectWord();
+        showMenu(x, input.height, true);
+        return true;
+    }
+
     /*! Takes the focus from the field, which closes the on-screen keyboard. */
     function leave() {
         if (field.next)
@@ -67,6 +97,7 @@ FormRow {
         readonly property int halfCaret: 1
 
         Accessible.name: field.placeholder
+        Keys.onPressed: event => event.accepted = field.answer(event.key, event.modifiers)
         EnterKey.type: field.next ? Qt.EnterKeyNext : Qt.EnterKeyDone
         anchors.left: parent.left
         anchors.leftMargin: -halfCaret
@@ -81,6 +112,8 @@ FormRow {
         leftPadding: halfCaret
         inputMethodHints: field.numeric ? Qt.ImhDigitsOnly : Qt.ImhNone
         maximumLength: 2147483647
+        // The menu takes the focus at the latest when it is pressed.
+        persistentSelection: (menu.item as EditMenu)?.visible ?? false
         readOnly: field.unseen !== ""
         rightPadding: halfCaret
         selectByMouse: true
@@ -119,8 +152,19 @@ FormRow {
         }
 
         onAccepted: field.leave()
+        onPressAndHold: event => event.accepted = field.hold(event.x, event.y)
         onTextEdited: field.take()
 
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+
+            onTapped: eventPoint => field.showMenu(eventPoint.position.x, eventPoint.position.y, false)
+        }
+        TapHandler {
+            id: finger
+
+            acceptedDevices: PointerDevice.TouchScreen
+        }
         PlainText {
             Accessible.ignored: true
             anchors.fill: parent
@@ -150,6 +194,9 @@ FormRow {
         }
     }
 
+    Loader {
+        id: menu
+    }
     TapHandler {
         onTapped: input.forceActiveFocus(Qt.MouseFocusReason)
     }

@@ -55,6 +55,36 @@ TEST(FormTextField, TakesAnyText) {
     EXPECT_LE(input->property("length").toInt(), 100'000);
 }
 
+TEST(FormTextField, HasAMenu) {
+    Stage stage(
+        "property string title: 'one two'\nFormTextField { objectName: 'field'; text: title; "
+        "onEdited: text => title = text }");
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    const auto choose = [&](const char* item, const char* title) {
+        stage.click(stage.showing(item));
+        EXPECT_EQ(stage.get("title").toString().toStdString(), title) << item;
+    };
+    const auto open = [&](Qt::Key key, Qt::KeyboardModifier modifier = Qt::NoModifier) {
+        EXPECT_TRUE(Stage::soon([&] { return !shown(*stage.window(), "Undo", false); }));
+        QTest::keyClick(stage.window(), key, modifier);
+    };
+    stage.click(middle(stage.item("field")), Qt::RightButton);
+    choose("Cut", "one two");
+    choose("Select All", "one two");
+    open(Qt::Key_Menu);
+    choose("Cut", "");
+    EXPECT_EQ(clipboard->text(), "one two");
+    open(Qt::Key_F10, Qt::ShiftModifier);
+    choose("Copy", "");
+    choose("Undo", "one two");
+    clipboard->setText("new");
+    open(Qt::Key_X);
+    open(Qt::Key_Menu);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return})
+        stage.press(key);
+    EXPECT_EQ(stage.get("title").toString(), u"xnew") << "the keys pass over what can do nothing";
+}
+
 TEST(SegmentedControl, ProposesAndItsOwnerChooses) {
     Stage stage(R"(
         property string choice: 'Earning'

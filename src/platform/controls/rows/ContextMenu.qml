@@ -6,6 +6,8 @@ import Kovamo.Desktop
 T.Menu {
     id: menu
 
+    // Above an on-screen keyboard.
+    bottomMargin: margins + Math.max(0, InputMethod.visible ? (parent?.Window.height ?? 0) - InputMethod.keyboardRectangle.y : 0)
     implicitHeight: contentItem.implicitHeight
     implicitWidth: 220
     margins: Metrics.step * 2

@@ -3,18 +3,21 @@ import QtQuick.Templates as T
 import Kovamo.Controls
 import Kovamo.Desktop
 
-/*! A line of a menu: its text and a symbol, red where it destroys. */
+/*! A line of a menu: its text and a symbol, red where it destroys, pale where it can do nothing. */
 T.MenuItem {
     id: item
 
     property string symbol
     property bool destructive: false
-    readonly property color tint: destructive ? SystemColors.red : SystemColors.label
+    readonly property color tint: !enabled ? SystemColors.tertiaryLabel : destructive ? SystemColors.red : SystemColors.label
 
     implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight + Metrics.step * 4)
     implicitWidth: 220
     leftPadding: Metrics.padding
     rightPadding: Metrics.padding
+
+    // Otherwise Qt leads the arrow keys to it.
+    activeFocusOnTab: enabled
 
     Accessible.onPressAction: triggered()
 
