@@ -14,6 +14,9 @@ Focusable {
     readonly property real cellSide: Math.max(44, Math.ceil(sizer.height) + Metrics.step * 2)
     readonly property int columns: Math.max(1, Math.floor((width - 4 * Metrics.step) / cellSide))
     readonly property int back: LayoutMirroring.enabled ? 1 : -1
+    /*! The first emoji in sight, and where the list stood when a new width had shown it. */
+    property int firstPlace: 0
+    property real shownAt: NaN
     property alias bottomMargin: list.bottomMargin
 
     /*! The user chose an emoji. */
@@ -24,6 +27,15 @@ Focusable {
     function show(shownCategory: int) {
         rows.setCursorRow(rows.rowOf(shownCategory));
         list.positionViewAtIndex(rows.cursorRow, ListView.Beginning);
+    }
+
+    /*! Lays the rows out anew. However often the width changes, they begin with the same emoji. */
+    function rearrange() {
+        if (list.contentY !== shownAt)
+            firstPlace = rows.placeOf(list.indexAt(0, list.contentY));
+        rows.columns = columns;
+        list.positionViewAtIndex(rows.rowAt(firstPlace), ListView.Beginning);
+        shownAt = list.contentY;
     }
 
     function walkRow(by: int) {
@@ -41,7 +53,7 @@ Focusable {
     activeFocusOnTab: true
 
     onActivated: picked(rows.cursorText)
-    onColumnsChanged: rows.columns = columns
+    onColumnsChanged: rearrange()
 
     FontMetrics {
         id: sizer

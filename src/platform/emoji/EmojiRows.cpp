@@ -1,6 +1,7 @@
 #include "EmojiRows.h"
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace kovamo {
@@ -12,7 +13,10 @@ EmojiRows::EmojiRows(QObject* parent) : QAbstractListModel(parent) {
 void EmojiRows::setColumns(int columns) {
     if (std::exchange(m_columns, columns) == columns)
         return;
+    const int place = placeOf(m_cursorRow) + m_cursorColumn;
     layOut();
+    const int row = rowAt(place);
+    setCursor(row, place - placeOf(row));
     Q_EMIT columnsChanged();
 }
 
@@ -62,6 +66,19 @@ int EmojiRows::rowOf(int category) const {
 
 int EmojiRows::categoryOf(int row) const {
     return row >= 0 && row < m_rows.size() ? m_rows.at(row).category : -1;
+}
+
+int EmojiRows::placeOf(int row) const {
+    const auto end = m_rows.begin() + std::clamp<qsizetype>(row, 0, m_rows.size());
+    return std::accumulate(m_rows.begin(), end, 0,
+                           [](int before, const Row& r) { return before + int(r.emoji.size()); });
+}
+
+int EmojiRows::rowAt(int place) const {
+    int row = 0;
+    while (row + 1 < m_rows.size() && place >= m_rows.at(row).emoji.size())
+        place -= int(m_rows.at(row++).emoji.size());
+    return row;
 }
 
 void EmojiRows::moveCursor(int by) {

@@ -25,7 +25,7 @@ class EmojiRows : public QAbstractListModel {
     explicit EmojiRows(QObject* parent = nullptr);
 
     [[nodiscard]] int columns() const { return m_columns; }
-    /// Requires: a positive number.
+    /// Requires: a positive number. The cursor stays on its emoji.
     void setColumns(int columns);
 
     [[nodiscard]] QString query() const { return m_query; }
@@ -44,6 +44,10 @@ class EmojiRows : public QAbstractListModel {
     [[nodiscard]] Q_INVOKABLE int rowOf(int category) const;
     /// The category of a row; -1 where there is no such row, or a query.
     [[nodiscard]] Q_INVOKABLE int categoryOf(int row) const;
+
+    /// How many emoji stand before a row, and the row in which an emoji with so many before it is.
+    [[nodiscard]] Q_INVOKABLE int placeOf(int row) const;
+    [[nodiscard]] Q_INVOKABLE int rowAt(int place) const;
 
     /// Moves the cursor on or back by emoji, over the ends of the rows.
     Q_INVOKABLE void moveCursor(int by);

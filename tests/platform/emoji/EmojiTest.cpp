@@ -25,6 +25,9 @@ TEST(Emoji, RowsKeepTheCursorOnAnEmoji) {
     EXPECT_GT(walked.size(), 500);
     EXPECT_FALSE(walked.contains(QString()));
     EXPECT_FALSE(rows.moveCursorRow(1));
+    const QString before = rows.cursorText();
+    rows.setColumns(9);
+    EXPECT_EQ(rows.cursorText(), before);
     rows.setQuery(QStringLiteral("no such thing"));
     EXPECT_TRUE(rows.cursorText().isEmpty());
     EXPECT_FALSE(rows.moveCursorRow(-1));
@@ -37,6 +40,27 @@ TEST(EmojiPanel, IsWalkedAndSearchedByTheKeyboard) {
                               Qt::Key_C, Qt::Key_A, Qt::Key_R, Qt::Key_Return})
         stage.press(key);
     EXPECT_EQ(stage.log(), "🛡️🚗");
+}
+
+TEST(EmojiPanel, KeepsItsPlaceWhateverItsWidth) {
+    Stage stage("EmojiPanel { objectName: 'panel'; height: 800; width: 390 }", true,
+                "Kovamo.Emoji");
+    QQuickItem* list = findItem(*stage.window(), [](const QQuickItem& item) {
+        return item.inherits("QQuickListView") && item.height() > 400;
+    });
+    const auto first = [list] {
+        const int row = list->property("contentY").toInt() + 1;
+        QQuickItem* item = nullptr;
+        QMetaObject::invokeMethod(list, "itemAt", Q_RETURN_ARG(QQuickItem*, item), Q_ARG(qreal, 0),
+                                  Q_ARG(qreal, row));
+        return item ? item->property("texts").toStringList().value(0) : QString();
+    };
+    list->setProperty("contentY", 3000);
+    const QString before = first();
+    EXPECT_FALSE(before.isEmpty());
+    for (const int width : {500, 430, 620, 390})
+        stage.set("width", width, "panel");
+    EXPECT_EQ(first(), before);
 }
 
 TEST(EmojiPanel, MakesNoRowOutOfSight) {
