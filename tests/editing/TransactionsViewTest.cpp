@@ -39,6 +39,7 @@ TEST(TransactionLine, HoldsNoMoreThanARowCanShow) {
         {longest + u'w', longest + u'…'},
         {QString(50'000'000, u'w'), longest + u'…'},
         {u'w' + pairs, u'w' + pairs.first(495) + u'…'},
+        {u"ww" + pairs, u"ww" + pairs.first(495) + u'…'},
         {QString(5000, QChar(0x301)), QString(500, QChar(0x301)) + u'…'},
         {QStringLiteral("a\nb\r\u2028c"), QStringLiteral("a b  c")}};
     for (const auto& [title, shown] : cases) {

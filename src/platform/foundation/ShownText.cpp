@@ -26,7 +26,8 @@ qsizetype cut(const QString& text, qsizetype longest) {
 QString shownText(const QString& text, qsizetype longest) {
     QString shown = text;
     if (text.size() > longest) {
-        shown = text.first(longest + 1);
+        // With both halves of the character behind the cut: it may belong to the one before.
+        shown = text.first(std::min(longest + 2, text.size()));
         shown.truncate(cut(shown, longest));
         shown += u'…';
     }
