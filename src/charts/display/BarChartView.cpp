@@ -53,18 +53,30 @@ AnyView BarChartView::plot() const {
     return BarsPlot{*this};
 }
 
-std::optional<Reading> BarChartView::reading(QPointF place, QSizeF size) const {
-    const QRectF bars = barsRect(QRectF(QPointF(), size), !labels.empty());
-    const double y = std::clamp(place.y(), 0., bars.height());
-    const auto index = columnAt(y, series.values.size(), spacing, bars.height());
-    if (!index || !std::isfinite(series.values[*index]))
+std::optional<Reading> BarChartView::readingAt(std::size_t index, QSizeF size) const {
+    if (!std::isfinite(series.values[index]))
         return {};
+    const QRectF bars = barsRect(QRectF(QPointF(), size), !labels.empty());
     const auto columns = columnData(barsChart(series).configuration);
     const QRectF upright(QPointF(), bars.size().transposed());
-    const QRectF bar = laidOnSide(columnFrames(columns, spacing, upright)[*index], bars);
-    const double end = series.values[*index] < 0 ? bar.left() : bar.right();
-    const QString name = *index < labels.size() ? labels[*index] : series.name;
-    return Reading{{end, bar.center().y()}, readingText(name, series.values[*index]), series.color};
+    const QRectF bar = laidOnSide(columnFrames(columns, spacing, upright)[index], bars);
+    const double end = series.values[index] < 0 ? bar.left() : bar.right();
+    const QString name = index < labels.size() ? labels[index] : series.name;
+    return Reading{{end, bar.center().y()}, readingText(name, series.values[index]), series.color};
+}
+
+std::vector<Reading> BarChartView::readings(QSizeF size) const {
+    std::vector<Reading> readings;
+    for (std::size_t i = 0; i < series.values.size(); ++i)
+        if (const auto reading = readingAt(i, size))
+            readings.push_back(*reading);
+    return readings;
+}
+
+std::optional<Reading> BarChartView::reading(QPointF place, QSizeF size) const {
+    const double y = std::clamp(place.y(), 0., size.height());
+    const auto index = columnAt(y, series.values.size(), spacing, size.height());
+    return index ? readingAt(*index, size) : std::nullopt;
 }
 
 } // namespace kovamo

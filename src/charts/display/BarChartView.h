@@ -15,7 +15,12 @@ struct BarChartView {
 
     [[nodiscard]] std::vector<LegendEntry> legend() const;
     [[nodiscard]] AnyView plot() const;
+    [[nodiscard]] std::vector<Reading> readings(QSizeF size) const;
     [[nodiscard]] std::optional<Reading> reading(QPointF place, QSizeF size) const;
+
+  private:
+    /// The end of the bar at `index`; none where its value is not finite.
+    [[nodiscard]] std::optional<Reading> readingAt(std::size_t index, QSizeF size) const;
 };
 
 } // namespace kovamo

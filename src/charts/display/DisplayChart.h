@@ -25,25 +25,25 @@ struct LegendEntry {
     [[nodiscard]] AnyView swatch() const;
 };
 
-/// The value of a chart that is nearest to a place: where it stands in the plot, in points, its
-/// words, and its colour.
+/// A value of a chart: where it stands in the plot, in points, its words, and its colour.
 struct Reading {
     QPointF position;
     QString text;
     Color color;
 };
 
-/// A chart to look at closely: a value with a title, a legend, a plot, and an answer to what stands
-/// at a place of the plot when it is drawn in a size.
+/// A chart to look at closely: a value with a title, a legend, a plot, and, of the plot drawn in a
+/// size, its values in order and the one that is nearest to a place.
 template<class C>
 concept DisplayChart = std::copyable<C> && requires(const C chart, QPointF place, QSizeF size) {
     { chart.title } -> std::convertible_to<QString>;
     { chart.legend() } -> std::same_as<std::vector<LegendEntry>>;
     { chart.plot() } -> View;
+    { chart.readings(size) } -> std::same_as<std::vector<Reading>>;
     { chart.reading(place, size) } -> std::same_as<std::optional<Reading>>;
 };
 
-/// What the magnifier shows for one place of a plot.
+/// What the magnifier shows of one value of a plot.
 struct MagnifiedReading {
     Q_GADGET
     QML_VALUE_TYPE(magnifiedReading)
@@ -64,6 +64,7 @@ class AnyDisplayChart {
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QList<kovamo::LegendEntry> legend READ legend CONSTANT)
     Q_PROPERTY(kovamo::AnyView plot READ plot CONSTANT)
+    Q_PROPERTY(int count READ count CONSTANT)
 
   public:
     AnyDisplayChart() = default;
@@ -72,7 +73,9 @@ class AnyDisplayChart {
     requires(!std::same_as<C, AnyDisplayChart> && DisplayChart<C>) AnyDisplayChart(const C& chart)
         : m_title(chart.title), m_plot(chart.plot()),
           m_reading(std::make_shared<const ReadingAt>(
-              [chart](QPointF place, QSizeF size) { return chart.reading(place, size); })) {
+              [chart](QPointF place, QSizeF size) { return chart.reading(place, size); })),
+          m_readings(std::make_shared<const Readings>(
+              [chart](QSizeF size) { return chart.readings(size); })) {
         for (LegendEntry& entry : chart.legend())
             m_legend.append(std::move(entry));
     }
@@ -80,17 +83,25 @@ class AnyDisplayChart {
     [[nodiscard]] QString title() const { return m_title; }
     [[nodiscard]] QList<LegendEntry> legend() const { return m_legend; }
     [[nodiscard]] AnyView plot() const { return m_plot; }
+    /// How many values there are to read.
+    [[nodiscard]] int count() const;
 
     /// The value nearest to `place` in a plot of `size`, and a lens over it; without words where
     /// the chart has none.
     Q_INVOKABLE kovamo::MagnifiedReading magnified(QPointF place, QSizeF size) const;
+    /// The value at `index`, and a lens over it; without words where there is none.
+    Q_INVOKABLE kovamo::MagnifiedReading magnifiedAt(int index, QSizeF size) const;
 
   private:
+    [[nodiscard]] MagnifiedReading lensOver(const Reading& reading, QSizeF size) const;
+
     using ReadingAt = std::function<std::optional<Reading>(QPointF, QSizeF)>;
+    using Readings = std::function<std::vector<Reading>(QSizeF)>;
     QString m_title;
     QList<LegendEntry> m_legend;
     AnyView m_plot;
     std::shared_ptr<const ReadingAt> m_reading;
+    std::shared_ptr<const Readings> m_readings;
 };
 
 } // namespace kovamo

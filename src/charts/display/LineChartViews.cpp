@@ -45,6 +45,20 @@ std::vector<std::vector<double>> fractions(const std::vector<ChartSeries>& serie
     return rows;
 }
 
+/// A dot where a line has one point alone, and so no length to draw.
+struct LonePoint {
+    std::vector<double> row;
+    double radius = 0;
+
+    [[nodiscard]] QPainterPath path(const QRectF& rect) const {
+        const std::vector<QPointF> points = mapUnitPoints(makeUnitPoints(row), rect);
+        QPainterPath path;
+        if (points.size() == 1)
+            path.addEllipse(points.front(), radius, radius);
+        return path;
+    }
+};
+
 /// Layers over a grid, drawn in the lines' rectangle, and the labels below it.
 struct LinesPlot {
     std::vector<AnyView> layers;
@@ -74,33 +88,42 @@ std::vector<LegendEntry> MultiLineChartView::legend() const {
 AnyView MultiLineChartView::plot() const {
     LinesPlot plot{{}, labels, positions(series)};
     const auto rows = fractions(series);
-    for (std::size_t i = 0; i < series.size(); ++i)
+    for (std::size_t i = 0; i < series.size(); ++i) {
         plot.layers.emplace_back(
             chartStyle(Chart(rows[i]), LineChartStyle{lineType, series[i].color, lineWidth}));
+        plot.layers.emplace_back(FilledShape{LonePoint{rows[i], 2 * lineWidth}, series[i].color});
+    }
     return plot;
 }
 
-std::optional<Reading> MultiLineChartView::reading(QPointF place, QSizeF size) const {
+std::vector<Reading> MultiLineChartView::readings(QSizeF size) const {
     const QRectF lines = linesRect(QRectF(QPointF(), size), positions(series), !labels.empty());
-    const auto rows = fractions(series);
-    std::optional<Reading> nearest;
-    std::pair<double, double> least;
-    for (std::size_t i = 0; i < series.size(); ++i) {
-        const auto unitPoints = makeUnitPoints(rows[i]);
-        for (std::size_t at = 0; at < series[i].values.size(); ++at) {
-            const QPointF point = lines.topLeft() + mapUnitPoint(unitPoints[at], lines);
-            const std::pair distance(std::abs(point.x() - place.x()),
-                                     std::abs(point.y() - place.y()));
-            if (!std::isfinite(point.y()) || (nearest && !(distance < least)))
+    std::vector<std::vector<PlotPoint>> unitPoints;
+    for (const std::vector<double>& row : fractions(series))
+        unitPoints.push_back(makeUnitPoints(row));
+    std::vector<Reading> readings;
+    for (std::size_t at = 0; at < positions(series); ++at) {
+        for (std::size_t i = 0; i < series.size(); ++i) {
+            const QPointF point = lines.topLeft() + mapUnitPoint(unitPoints[i][at], lines);
+            if (!std::isfinite(point.y()))
                 continue;
             QString name = at < labels.size() ? labels[at] : QString();
             if (series.size() > 1 || name.isEmpty())
                 name = name.isEmpty() ? series[i].name : series[i].name % u' ' % name;
-            nearest = {point, readingText(name, series[i].values[at]), series[i].color};
-            least = distance;
+            readings.push_back({point, readingText(name, series[i].values[at]), series[i].color});
         }
     }
-    return nearest;
+    return readings;
+}
+
+std::optional<Reading> MultiLineChartView::reading(QPointF place, QSizeF size) const {
+    const auto distance = [place](const Reading& reading) {
+        return std::pair(std::abs(reading.position.x() - place.x()),
+                         std::abs(reading.position.y() - place.y()));
+    };
+    const std::vector<Reading> all = readings(size);
+    const auto nearest = std::ranges::min_element(all, {}, distance);
+    return nearest == all.end() ? std::nullopt : std::optional(*nearest);
 }
 
 MultiLineChartView LineChartView::lines() const {
@@ -113,13 +136,19 @@ std::vector<LegendEntry> LineChartView::legend() const {
 
 AnyView LineChartView::plot() const {
     const LinearGradient shade{{{series.color.name, 0.35}, {series.color.name, 0}}};
-    const Chart chart(fractions({series}).front());
+    const std::vector<double> row = fractions({series}).front();
+    const Chart chart(row);
     LinesPlot plot{{}, labels, series.values.size()};
     plot.layers = {
         chartStyle(chart, AreaChartStyle{lineType, FilledShape{Rectangle{}, shade}}),
         chartStyle(chart, LineChartStyle{lineType, series.color, lineWidth}),
+        FilledShape{LonePoint{row, 2 * lineWidth}, series.color},
     };
     return plot;
+}
+
+std::vector<Reading> LineChartView::readings(QSizeF size) const {
+    return lines().readings(size);
 }
 
 std::optional<Reading> LineChartView::reading(QPointF place, QSizeF size) const {

@@ -16,6 +16,7 @@ struct MultiLineChartView {
 
     [[nodiscard]] std::vector<LegendEntry> legend() const;
     [[nodiscard]] AnyView plot() const;
+    [[nodiscard]] std::vector<Reading> readings(QSizeF size) const;
     [[nodiscard]] std::optional<Reading> reading(QPointF place, QSizeF size) const;
 };
 
@@ -29,6 +30,7 @@ struct LineChartView {
 
     [[nodiscard]] std::vector<LegendEntry> legend() const;
     [[nodiscard]] AnyView plot() const;
+    [[nodiscard]] std::vector<Reading> readings(QSizeF size) const;
     [[nodiscard]] std::optional<Reading> reading(QPointF place, QSizeF size) const;
 
   private:

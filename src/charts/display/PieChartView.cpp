@@ -68,20 +68,32 @@ AnyView PieChartView::plot() const {
     return plot;
 }
 
-std::optional<Reading> PieChartView::reading(QPointF place, QSizeF size) const {
+Reading PieChartView::readingAt(std::size_t index, QSizeF size) const {
     const QRectF round = circle(QRectF(QPointF(), size));
-    const QPointF direction = place - round.center();
+    const Sector part = sectors(slices)[index];
+    const double middle = std::numbers::pi * (part.from + part.to);
+    const QPointF point =
+        round.center() + QPointF(std::sin(middle), -std::cos(middle)) * (round.width() / 3);
+    return {point, readingText(slices[index].name, slices[index].value), slices[index].color};
+}
+
+std::vector<Reading> PieChartView::readings(QSizeF size) const {
+    const std::vector<Sector> parts = sectors(slices);
+    std::vector<Reading> readings;
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        if (parts[i].to > parts[i].from)
+            readings.push_back(readingAt(i, size));
+    return readings;
+}
+
+std::optional<Reading> PieChartView::reading(QPointF place, QSizeF size) const {
+    const QPointF direction = place - circle(QRectF(QPointF(), size)).center();
     const double turn = std::atan2(direction.x(), -direction.y()) / (2 * std::numbers::pi);
     const double at = turn < 0 ? turn + 1 : turn;
     const std::vector<Sector> parts = sectors(slices);
-    for (std::size_t i = 0; i < parts.size(); ++i) {
-        if (!(parts[i].from <= at && at < parts[i].to))
-            continue;
-        const double middle = std::numbers::pi * (parts[i].from + parts[i].to);
-        const QPointF point =
-            round.center() + QPointF(std::sin(middle), -std::cos(middle)) * (round.width() / 3);
-        return Reading{point, readingText(slices[i].name, slices[i].value), slices[i].color};
-    }
+    for (std::size_t i = 0; i < parts.size(); ++i)
+        if (parts[i].from <= at && at < parts[i].to)
+            return readingAt(i, size);
     return {};
 }
 

@@ -19,8 +19,12 @@ struct PieChartView {
 
     [[nodiscard]] std::vector<LegendEntry> legend() const;
     [[nodiscard]] AnyView plot() const;
+    [[nodiscard]] std::vector<Reading> readings(QSizeF size) const;
     /// The slice in the direction of `place` from the circle's centre.
     [[nodiscard]] std::optional<Reading> reading(QPointF place, QSizeF size) const;
+
+  private:
+    [[nodiscard]] Reading readingAt(std::size_t index, QSizeF size) const;
 };
 
 } // namespace kovamo

@@ -21,6 +21,17 @@ std::string read(const auto& chart, QPointF place) {
     return reading ? reading->text.toStdString() : "nothing";
 }
 
+/// All that a chart reads out, in the order in which the keys lead to it.
+std::vector<std::string> readAll(const auto& chart) {
+    const AnyDisplayChart any(chart);
+    std::vector<std::string> texts;
+    for (int i = 0; i < any.count(); ++i)
+        texts.push_back(any.magnifiedAt(i, size).text.toStdString());
+    EXPECT_TRUE(any.magnifiedAt(-1, size).text.isEmpty());
+    EXPECT_TRUE(any.magnifiedAt(any.count(), size).text.isEmpty());
+    return texts;
+}
+
 /// The colour that a chart paints where it says its reading for `place` stands.
 QColor colorAtReading(const auto& chart, QPointF place, QPointF nudge = {}) {
     const QPointF point = chart.reading(place, size).value().position + nudge;
@@ -53,6 +64,11 @@ TEST(LineCharts, ReadOutTheNearestValueWhereItIsDrawn) {
     expectReading(bare, {0, 0}, "Balance, 1,000", SystemColor::red);
     bare.series.values = {nan, infinity};
     EXPECT_EQ(read(bare, {10, 10}), "nothing");
+    for (const std::vector<double>& lone : {std::vector{5.}, {nan, -5., nan}}) {
+        bare.series.values = lone;
+        expectReading(bare, {0, 0}, lone.size() == 1 ? "Balance, 5" : "Balance, -5",
+                      SystemColor::red);
+    }
 }
 
 TEST(MultiLineCharts, ReadOutTheNearerOfTheirSeries) {
@@ -63,12 +79,15 @@ TEST(MultiLineCharts, ReadOutTheNearerOfTheirSeries) {
     expectReading(chart, {100, 10}, "In Feb, 100", SystemColor::green);
     expectReading(chart, {100, 85}, "Out Feb, 20", SystemColor::red);
     expectReading(chart, {190, 110}, "In Mar, 100", SystemColor::green);
+    EXPECT_EQ(readAll(chart), (std::vector<std::string>{"In Jan, 0", "Out Jan, 0", "In Feb, 100",
+                                                        "Out Feb, 20", "In Mar, 100"}));
 }
 
 TEST(BarCharts, ReadOutTheBarBesideTheFinger) {
     const BarChartView chart{{}, {"Balance", {50, 100}, blue}, {"Jan", "Feb"}, 4};
     EXPECT_EQ(read(chart, {0, 10}), "Jan, 50");
     EXPECT_EQ(read(chart, {0, 500}), "Feb, 100");
+    EXPECT_EQ(readAll(chart), (std::vector<std::string>{"Jan, 50", "Feb, 100"}));
     expectColor(colorAtReading(chart, {0, 10}, {-1, 0}), light(SystemColor::blue), "inside");
     expectColor(colorAtReading(chart, {0, 10}, {1, 0}), Qt::white, "past the end");
 }
@@ -83,6 +102,7 @@ TEST(PieCharts, GiveEachSliceItsShareFromTheTopClockwise) {
     expectReading(chart, {150, 60}, "Half, 50", SystemColor::red);
     expectReading(chart, {95, 110}, "Quarter, 25", SystemColor::green);
     expectReading(chart, {60, 20}, "Rest, 25", SystemColor::blue);
+    EXPECT_EQ(readAll(chart), (std::vector<std::string>{"Half, 50", "Quarter, 25", "Rest, 25"}));
 }
 
 } // namespace
