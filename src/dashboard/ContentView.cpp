@@ -127,7 +127,8 @@ void ContentView::layOut() {
     m_isLaidOut = true;
     m_hasTransactions = m_allTransactions.rowCount() > 0;
     m_banner = Banner(m_viewContext, m_selectedTimeFrame);
-    m_chart = TransactionChart(m_viewContext, m_selectedTimeFrame);
+    m_chart = m_banner.isShown() ? TransactionChart(m_viewContext, m_selectedTimeFrame)
+                                 : TransactionChart();
     auto container = std::make_unique<TransactionContainer>();
     container->fetchTransactions(m_selectedTimeFrame, m_viewContext);
     m_filteredList.setTransactionContainer(std::move(container));
