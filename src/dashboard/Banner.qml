@@ -44,7 +44,8 @@ Item {
             style: Text.Raised
             styleColor: SystemColors.dimming
             text: card.balance.infoText
-            width: Math.min(implicitWidth, parent.width)
+            // A text with a width is laid out several times, and its emoji decoded each time.
+            width: implicitWidth > parent.width ? parent.width : undefined
         }
         Row {
             anchors.horizontalCenter: parent.horizontalCenter

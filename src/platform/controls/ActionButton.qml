@@ -8,12 +8,14 @@ Pressable {
 
     property string symbol
     readonly property real side: Metrics.padding + Metrics.step
+    readonly property real beside: image.width + Metrics.step * 2 + 2 * side
+    readonly property real widest: parent ? parent.width - 2 * Metrics.padding : Infinity
 
     implicitHeight: Math.max(50, caption.implicitHeight + Metrics.padding * 2)
-    implicitWidth: image.width + Metrics.step * 2 + caption.implicitWidth + 2 * side
+    implicitWidth: beside + caption.implicitWidth
     ring.distance: 2
     ring.radius: ring.height / 2
-    width: Math.min(implicitWidth, parent ? parent.width - 2 * Metrics.padding : Infinity)
+    width: Math.min(implicitWidth, widest)
 
     Rectangle {
         anchors.fill: parent
@@ -37,8 +39,6 @@ Pressable {
         Accessible.ignored: true
         anchors.left: image.right
         anchors.leftMargin: Metrics.step * 2
-        anchors.right: parent.right
-        anchors.rightMargin: button.side
         anchors.verticalCenter: parent.verticalCenter
         color: SystemColors.accent
         font: TextStyles.headline
@@ -46,5 +46,7 @@ Pressable {
         height: image.height
         text: button.text
         verticalAlignment: Text.AlignVCenter
+        // A text with a width is laid out several times, and its emoji decoded each time.
+        width: implicitWidth > button.widest - button.beside ? button.widest - button.beside : undefined
     }
 }
