@@ -39,19 +39,24 @@ FocusScope {
 
         onActivated: screen.content.findTransactions()
     }
-    NavigationBar {
+    Item {
         id: bar
 
+        height: Metrics.rowHeight
         width: parent.width
 
-        leading: BarButton {
+        BarButton {
+            anchors.left: parent.left
+            anchors.leftMargin: Metrics.step
             description: qsTr("Shows all transactions")
             symbol: "list.bullet"
             text: qsTr("Add Item")
 
             onClicked: screen.content.showTransactions = true
         }
-        trailing: BarButton {
+        BarButton {
+            anchors.right: parent.right
+            anchors.rightMargin: Metrics.step
             description: qsTr("Records a new transaction")
             symbol: "plus"
             text: qsTr("Add Item")
@@ -83,18 +88,18 @@ FocusScope {
         wanted: screen.content.isEmpty
         width: screen.contentWidth
     }
-    TimeFramePicker {
+    LateLoader {
         id: picker
 
         anchors.bottom: parent.bottom
-        choices: screen.content.timeFrames
-        hasShortcuts: visible && !screen.content.isCovered
+        file: Qt.resolvedUrl("TimeFramePicker.qml")
         height: visible ? implicitHeight : 0
-        selected: screen.content.selectedTimeFrame
-        visible: screen.content.hasTransactions
+        properties: ({
+                "content": screen.content
+            })
+        visible: wanted
+        wanted: screen.content.hasTransactions
         width: parent.width
-
-        onPicked: value => screen.content.select(value)
     }
     LateLoader {
         file: Qt.resolvedUrl("AddTransactionSheet.qml")

@@ -8,12 +8,7 @@ import Kovamo.Desktop
 Column {
     id: picker
 
-    required property list<timeFrameChoice> choices
-    required property int selected
-    /*! Whether the choices' shortcuts can be used. */
-    required property bool hasShortcuts
-
-    signal picked(int value)
+    required property ContentState content
 
     Accessible.name: qsTr("Time frame")
     Accessible.role: Accessible.PageTabList
@@ -24,8 +19,7 @@ Column {
     EqualRow {
         id: row
 
-        // While they are hidden, a start need not make them.
-        model: picker.visible ? picker.choices : []
+        model: picker.content.timeFrames
         width: parent.width
 
         Pressable {
@@ -33,7 +27,7 @@ Column {
 
             required property int index
             required property timeFrameChoice modelData
-            readonly property bool chosen: modelData.value === picker.selected
+            readonly property bool chosen: modelData.value === picker.content.selectedTimeFrame
 
             Accessible.role: Accessible.PageTab
             Accessible.selectable: true
@@ -44,11 +38,11 @@ Column {
             text: caption.text
             width: row.cellWidth
 
-            onClicked: picker.picked(modelData.value)
+            onClicked: picker.content.select(modelData.value)
 
             Shortcut {
                 context: Qt.ApplicationShortcut
-                enabled: picker.hasShortcuts
+                enabled: picker.visible && !picker.content.isCovered
                 sequence: choice.modelData.shortcut
 
                 onActivated: choice.clicked()

@@ -1,16 +1,15 @@
 import QtQuick
 
-/*! The bar at the top of a screen: its title in the middle, buttons at both ends. */
+/*! The bar at the top of a page: the way back, its title in the middle, buttons. */
 Item {
     id: bar
 
     property string title
     /*! True shows the back button. */
     property bool canGoBack: false
-    /*! The buttons at the leading and at the trailing end. */
-    property alias leading: leadingRow.data
+    /*! The buttons at the trailing end. */
     property alias trailing: trailingRow.data
-    readonly property real side: Math.max(leadingRow.width + (canGoBack ? backButton.width : 0), trailingRow.width) + Metrics.step * 2
+    readonly property real side: Math.max(canGoBack ? backButton.width : 0, trailingRow.width) + Metrics.step * 2
 
     /*! The back button was pressed. */
     signal back
@@ -26,13 +25,6 @@ Item {
         visible: bar.canGoBack
 
         onClicked: bar.back()
-    }
-    Row {
-        id: leadingRow
-
-        anchors.left: backButton.visible ? backButton.right : parent.left
-        anchors.leftMargin: backButton.visible ? 0 : Metrics.step
-        anchors.verticalCenter: parent.verticalCenter
     }
     PlainText {
         id: titleText
