@@ -41,9 +41,6 @@ class Bus : public QObject, public testing::Test {
         environment.insert("DISPLAY", u':' + display.address);
         environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
         environment.insert("QT_QPA_PLATFORM", "xcb");
-        // It is killed in the end: what it leaves goes with the world.
-        environment.insert("TMPDIR", World::folder());
-        environment.insert("XDG_RUNTIME_DIR", World::folder());
         app.setProcessEnvironment(environment);
         app.start(QStringLiteral(KOVAMO_EXECUTABLE), {QStringLiteral("--demo")});
     }
@@ -166,7 +163,7 @@ class Bus : public QObject, public testing::Test {
 
     const Element registry{"org.a11y.atspi.Registry",
                            QDBusObjectPath("/org/a11y/atspi/accessible/root")};
-    Server session{"dbus-daemon", {"--session", "--print-address", "--nofork"}};
+    Server session{"dbus-daemon", Server::bus()};
     Server display{"Xvfb", {"-displayfd", "1", "-screen", "0", "400x900x24"}};
     QDBusConnection bus{QString()};
     QStringList said;

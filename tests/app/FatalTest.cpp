@@ -31,7 +31,7 @@ TEST(FatalError, IsShownByTheDesktopAndLeavesNoCore) {
     QDir().mkpath(config);
     std::ofstream(config.toStdString() + "/Kovamo.conf") << "onboardingFinished=true\n";
     book.elsewhere("UPDATE \"Transaction\" SET title = NULL");
-    const Server session{"dbus-daemon", {"--session", "--print-address", "--nofork"}};
+    const Server session{"dbus-daemon", Server::bus()};
     QDBusConnection bus = QDBusConnection::connectToBus(session.address, QStringLiteral("desktop"));
     Notifications desktop;
     EXPECT_TRUE(bus.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &desktop,

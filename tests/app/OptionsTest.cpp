@@ -62,7 +62,6 @@ TEST(Options, PicturesShowEveryScreenAndTouchNothingOfTheUsers) {
 }
 
 TEST(SecondStart, LeavesTheFirstAloneAndComesBackWhenThatIsKilled) {
-    qputenv("XDG_RUNTIME_DIR", World::folder().toUtf8());
     for (int round = 0; round < 2; ++round) {
         QProcess starts[2];
         for (QProcess& start : starts)
@@ -80,7 +79,6 @@ TEST(SecondStart, LeavesTheFirstAloneAndComesBackWhenThatIsKilled) {
 }
 
 TEST(SecondStart, HandsWhatItAsksForToTheFirst) {
-    qputenv("XDG_RUNTIME_DIR", World::folder().toUtf8());
     SoleInstance first(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation));
     QList<Start> heard;
     QObject::connect(&first, &SoleInstance::activationRequested, &first,

@@ -24,8 +24,7 @@ class Phone : public testing::Test {
         for (const char* program : {"dbus-daemon", "grim", "phoc", "squeekboard", "wlr-randr"})
             if (QStandardPaths::findExecutable(QString::fromLatin1(program)).isEmpty())
                 GTEST_SKIP() << program << " is not installed";
-        bus = std::make_unique<Server>("dbus-daemon",
-                                       QStringList{"--session", "--print-address", "--nofork"});
+        bus = std::make_unique<Server>("dbus-daemon", Server::bus());
         const QDir scratch(World::folder());
         const QString sockets = scratch.filePath("run");
         scratch.mkpath("run");
@@ -38,7 +37,6 @@ class Phone : public testing::Test {
                                                {"GSETTINGS_BACKEND", "keyfile"},
                                                {"LC_ALL", "en_US.UTF-8"},
                                                {"QT_QPA_PLATFORM", "wayland"},
-                                               {"TMPDIR", scratch.path()}, // the app is killed
                                                {"WAYLAND_DISPLAY", "wayland-0"},
                                                {"WLR_BACKENDS", "headless"},
                                                {"WLR_LIBINPUT_NO_DEVICES", "1"},

@@ -52,4 +52,4 @@ check pictures "$scratch/(pictures(/|\")|tmp/qt_temp-[^/]*(\"|/(data|config)(/|\
 
 # The tests also write the files that they open.
 traced screens "$2" '--gtest_filter=App.*'
-check screens "$scratch/tmp/app_test-[^/]*(\"|/(home|xdg_[a-z]*_home)\"|/xdg_(data|config|cache)_home/|/[0-9]+\.csv\")"
+check screens "$scratch/tmp/test-[^/]*(/app_test-[^/]*)?(\"|/(home|xdg_[a-z]*_home)\"|/xdg_(data|config|cache)_home/|/[0-9]+\.csv\")"

@@ -1,6 +1,8 @@
 #include "World.h"
 
+#include <QDir>
 #include <QGuiApplication>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -15,6 +17,10 @@ class Beginnings : public testing::EmptyTestEventListener {
 } // namespace
 
 int main(int argc, char** argv) {
+    // What tests leave, and the programs that they start and kill, goes with this process.
+    const QTemporaryDir scratch(QDir::tempPath() + QStringLiteral("/test-XXXXXX"));
+    for (const char* variable : {"TMPDIR", "XDG_RUNTIME_DIR"})
+        qputenv(variable, scratch.path().toUtf8());
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     testing::InitGoogleTest(&argc, argv);

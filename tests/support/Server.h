@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDir>
 #include <QProcess>
 
 namespace kovamo {
@@ -14,8 +15,15 @@ class Server : public QProcess {
                 return;
         address = QString::fromUtf8(readLine().trimmed());
     }
+    /// A message bus, beside all that the machine has.
+    static QStringList bus() {
+        return {QStringLiteral("--session"), QStringLiteral("--print-address"),
+                QStringLiteral("--nofork"),
+                QStringLiteral("--address=unix:dir=") + QDir::tempPath()};
+    }
+    // Killed, an X server would leave its lock and its socket.
     ~Server() override {
-        kill();
+        terminate();
         waitForFinished();
     }
 

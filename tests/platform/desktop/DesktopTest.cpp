@@ -23,7 +23,7 @@ struct Bus {
             QDBusConnection::disconnectFromBus(QString::fromLatin1(name));
     }
 
-    Server server{"dbus-daemon", {"--session", "--print-address", "--nofork"}};
+    Server server{"dbus-daemon", Server::bus()};
     QDBusConnection app = QDBusConnection::connectToBus(server.address, "app");
     QDBusConnection desktop = QDBusConnection::connectToBus(server.address, "desktop");
 };
