@@ -42,14 +42,14 @@ void ContentView::setShowAddTransaction(bool show) {
     if (std::exchange(m_showAddTransaction, show) == show)
         return;
     if (show && (!m_addForm || m_addFormIsDone)) {
-        // Deleted at the end of this block, when the sheet shows the new form.
-        const auto before =
-            std::exchange(m_addForm, std::make_unique<AddTransactionView>(m_viewContext));
-        m_addFormIsDone = false;
-        connect(m_addForm.get(), &AddTransactionView::dismissed, this, [this] {
+        const PresentationMode sheet([this] {
             m_addFormIsDone = true;
             setShowAddTransaction(false);
         });
+        // Deleted at the end of this block, when the sheet shows the new form.
+        const auto before = std::exchange(
+            m_addForm, std::make_unique<AddTransactionView>(m_viewContext, nullptr, sheet));
+        m_addFormIsDone = false;
         Q_EMIT addFormChanged();
     }
     Q_EMIT showAddTransactionChanged();

@@ -45,10 +45,10 @@ std::int32_t parsedAmount(const QString& text) {
 } // namespace
 
 AddTransactionView::AddTransactionView(ManagedObjectContext& viewContext, Transaction* existing,
-                                       QObject* parent)
-    : QObject(parent), m_viewContext(viewContext), m_startDate(Clock::now()),
-      m_endDate(m_startDate), m_existingTransaction(existing), m_selectedType(types().front()),
-      m_selectedPositive(positiveTypes().front()) {
+                                       PresentationMode presentationMode)
+    : m_viewContext(viewContext), m_presentationMode(std::move(presentationMode)),
+      m_startDate(Clock::now()), m_endDate(m_startDate), m_existingTransaction(existing),
+      m_selectedType(types().front()), m_selectedPositive(positiveTypes().front()) {
     viewContext.prepareToSave();
     if (!existing)
         return;
@@ -161,7 +161,7 @@ void AddTransactionView::save() {
         unresolvedError(error);
     }
     NotificationCenter::defaultCenter().post(transactionRefresh(), QStringLiteral("refresh"));
-    Q_EMIT dismissed();
+    m_presentationMode.dismiss();
 }
 
 } // namespace kovamo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PresentationMode.h"
 #include "model/Transaction.h"
 #include "platform/objectstore/ManagedObjectContext.h"
 
@@ -34,7 +35,7 @@ class AddTransactionView : public QObject {
     /// A form for a new transaction, or for `existing`. A record without title, emoji or a date
     /// is a fatal error. Requires: context and record outlive the form.
     explicit AddTransactionView(ManagedObjectContext& viewContext, Transaction* existing = nullptr,
-                                QObject* parent = nullptr);
+                                PresentationMode presentationMode = {});
 
     /// The record that is being edited; null for a new one.
     [[nodiscard]] Transaction* existingTransaction() const { return m_existingTransaction; }
@@ -71,9 +72,9 @@ class AddTransactionView : public QObject {
     /// Whether emoji, title and amount are filled; a blank is.
     [[nodiscard]] bool canSave() const;
 
-    /// Writes the fields into the record, saves the context, posts transactionRefresh() and asks
-    /// to be dismissed. Does nothing while canSave() is false, nor a second time. An amount beyond
-    /// 32 bits and a failed save are fatal errors.
+    /// Writes the fields into the record, saves the context, posts transactionRefresh() and
+    /// dismisses the form. Does nothing while canSave() is false, nor a second time. An amount
+    /// beyond 32 bits and a failed save are fatal errors.
     Q_INVOKABLE void save();
 
   Q_SIGNALS:
@@ -86,14 +87,13 @@ class AddTransactionView : public QObject {
     void startDateChanged();
     void endDateChanged();
     void canSaveChanged();
-    /// The form is done and wants to be closed.
-    void dismissed();
 
   private:
     template<typename T>
     bool assign(T& field, const T& value, void (AddTransactionView::*changed)());
 
     ManagedObjectContext& m_viewContext;
+    PresentationMode m_presentationMode;
     QString m_emoji;
     QString m_title;
     QString m_amount;

@@ -32,7 +32,12 @@ bool TransactionsView::edit(int row) {
     if (row < 0 || row >= m_search.rowCount() || !transaction(row).exists())
         return false;
     m_formBefore = std::move(m_form);
-    m_form = std::make_unique<AddTransactionView>(m_viewContext, &transaction(row));
+    // The form before may save while its page slides off: this one's page stays then.
+    const PresentationMode page([this, opened = ++m_formsOpened] {
+        if (opened == m_formsOpened)
+            Q_EMIT formDismissed();
+    });
+    m_form = std::make_unique<AddTransactionView>(m_viewContext, &transaction(row), page);
     Q_EMIT formChanged();
     return true;
 }

@@ -58,6 +58,8 @@ class TransactionsView : public LiveFetch {
 
   Q_SIGNALS:
     void formChanged();
+    /// The form has saved, and its page is to go.
+    void formDismissed();
 
   private:
     [[nodiscard]] Transaction& transaction(int row) const;
@@ -69,6 +71,7 @@ class TransactionsView : public LiveFetch {
     std::unique_ptr<AddTransactionView> m_form;
     // Kept until its page has slid off the screen, which still shows it.
     std::unique_ptr<AddTransactionView> m_formBefore;
+    int m_formsOpened = 0;
 };
 
 } // namespace kovamo

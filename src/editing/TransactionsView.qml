@@ -38,10 +38,10 @@ NavigationStack {
         }
     }
     Connections {
-        function onDismissed() {
+        function onFormDismissed() {
             screen.pop();
         }
 
-        target: screen.transactions.form
+        target: screen.transactions as QtObject
     }
 }

@@ -46,7 +46,8 @@ TEST(AddTransactionView, CanSaveOnceNothingIsEmpty) {
 
 TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
     Book book;
-    AddTransactionView form(book.context);
+    std::string order;
+    AddTransactionView form(book.context, nullptr, PresentationMode([&] { order += "closed"; }));
     EXPECT_EQ(form.selectedPositive(), u"Earning");
     EXPECT_EQ(form.selectedType(), u"Monthly");
     EXPECT_FALSE(form.isRecurring());
@@ -57,14 +58,12 @@ TEST(AddTransactionView, WritesWhatItShowsAndTellsBeforeItCloses) {
     form.setSelectedType(QStringLiteral("Yearly"));
     form.setIsRecurring(false);
 
-    std::string order;
     const NotificationPublisher publisher(QStringLiteral("TransactionRefresh"));
     QObject::connect(&publisher, &NotificationPublisher::received, [&](const QVariant& object) {
         EXPECT_EQ(object, QVariant(QStringLiteral("refresh")));
         EXPECT_FALSE(book.context.hasChanges());
         order += "told ";
     });
-    QObject::connect(&form, &AddTransactionView::dismissed, [&] { order += "closed"; });
     form.save();
     form.save();
     EXPECT_EQ(order, "told closed") << "pressed again on its way out, it saves nothing";
