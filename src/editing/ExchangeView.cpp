@@ -189,7 +189,9 @@ ExchangeView::Page ExchangeView::copiesPage() {
         if (!count)
             continue;
         const QString day = dayOf(copy.name);
-        page.choices.append(day + u" · " + counted(tr("Transactions"), *count));
+        // A line breaks before the count, not in it.
+        page.choices.append(day + u" · " +
+                            counted(tr("Transactions"), *count).replace(u' ', QChar::Nbsp));
         page.next.push_back([this, path = copy.path, day] {
             run(tr("Go Back to a Copy"), [=, this] { return copyPage(path, day); });
         });

@@ -37,7 +37,7 @@ TEST(ExchangeView, TakesOutBringsInAndGoesBack) {
     EXPECT_EQ(book.all().size(), 2U);
 
     view.showCopies();
-    EXPECT_EQ(said(view), "Go Back to a Copy\nMay 15, 2024 · Transactions: 1");
+    EXPECT_EQ(said(view), "Go Back to a Copy\nMay 15, 2024 · Transactions: 1");
     view.choose(0);
     EXPECT_TRUE(said(view).starts_with("May 15, 2024\nTransactions in the copy: 1\n"
                                        "Transactions now: 2\n"));

@@ -45,7 +45,6 @@ Pressable {
         fontSizeMode: Text.HorizontalFit
         height: image.height
         text: button.text
-        verticalAlignment: Text.AlignVCenter
         // A text with a width is laid out several times, and its emoji decoded each time.
         width: implicitWidth > button.widest - button.beside ? button.widest - button.beside : undefined
     }

@@ -37,7 +37,6 @@ Pressable {
         horizontalAlignment: Text.AlignHCenter
         maximumLineCount: 3
         text: button.text
-        verticalAlignment: Text.AlignVCenter
         wrapMode: Text.Wrap
     }
 }

@@ -170,8 +170,8 @@ FormRow {
             anchors.fill: parent
             anchors.leftMargin: input.halfCaret
             color: SystemColors.tertiaryLabel
+            fontSizeMode: Text.HorizontalFit
             text: field.placeholder
-            verticalAlignment: Text.AlignVCenter
             visible: input.length === 0 && input.preeditText === ""
         }
     }

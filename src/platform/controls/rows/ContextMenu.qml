@@ -6,10 +6,19 @@ import Kovamo.Desktop
 T.Menu {
     id: menu
 
+    /*! The width of the line that needs most. */
+    function widest(): real {
+        let width = 0;
+        for (let i = 0; i < count; ++i)
+            width = Math.max(width, itemAt(i).implicitWidth);
+        return width;
+    }
+
     // Above an on-screen keyboard.
     bottomMargin: margins + Math.max(0, InputMethod.visible ? (parent?.Window.height ?? 0) - InputMethod.keyboardRectangle.y : 0)
     implicitHeight: contentItem.implicitHeight
-    implicitWidth: 220
+    // The margins keep it from being wider than the window.
+    implicitWidth: widest()
     margins: Metrics.step * 2
     modal: true
 

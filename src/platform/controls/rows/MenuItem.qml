@@ -12,7 +12,7 @@ T.MenuItem {
     readonly property color tint: !enabled ? SystemColors.tertiaryLabel : destructive ? SystemColors.red : SystemColors.label
 
     implicitHeight: Math.max(Metrics.rowHeight, caption.implicitHeight + Metrics.step * 4)
-    implicitWidth: 220
+    implicitWidth: Math.max(220, leftPadding + Math.ceil(caption.implicitWidth) + image.width + rightPadding)
     leftPadding: Metrics.padding
     rightPadding: Metrics.padding
 
@@ -35,6 +35,7 @@ T.MenuItem {
         anchors.right: image.left
         anchors.verticalCenter: parent.verticalCenter
         color: item.tint
+        fontSizeMode: Text.HorizontalFit
         text: item.text
     }
     SystemImage {

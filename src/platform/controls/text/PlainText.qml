@@ -14,4 +14,6 @@ Text {
     maximumLineCount: 1
     minimumPixelSize: TextStyles.footnote.pixelSize / 2
     textFormat: Text.PlainText
+    // Made smaller to fit, it stays in the middle of its line.
+    verticalAlignment: Text.AlignVCenter
 }
