@@ -2,7 +2,8 @@ import QtQuick
 import Kovamo.Controls
 import Kovamo.Desktop
 
-/*! Says at the bottom of a list what was deleted, with a button that takes it back. */
+/*! Says at the bottom of a list what was deleted, with a button that takes it back: beside the words
+    or, where large text leaves them no room, below. */
 FocusScope {
     id: bar
 
@@ -13,7 +14,7 @@ FocusScope {
     signal undone
 
     enabled: sentence !== ""
-    implicitHeight: Math.max(Metrics.rowHeight, words.height) + Metrics.step * 2
+    implicitHeight: (TextStyles.isLarge ? words.height + undo.height : Math.max(undo.height, words.height)) + Metrics.step * 2
     opacity: sentence === "" ? 0 : 1
     visible: opacity > 0
 
@@ -45,9 +46,11 @@ FocusScope {
         Accessible.ignored: true
         anchors.left: parent.left
         anchors.leftMargin: Metrics.padding
-        anchors.right: undo.left
+        anchors.right: TextStyles.isLarge ? parent.right : undo.left
+        anchors.rightMargin: TextStyles.isLarge ? Metrics.padding : 0
         anchors.verticalCenter: parent.verticalCenter
-        maximumLineCount: TextStyles.isLarge ? 3 : 2
+        anchors.verticalCenterOffset: TextStyles.isLarge ? -undo.height / 2 : 0
+        maximumLineCount: 5
         text: bar.shownSentence
         wrapMode: Text.Wrap
     }
@@ -62,6 +65,7 @@ FocusScope {
 
         anchors.right: parent.right
         anchors.verticalCenter: parent.verticalCenter
+        anchors.verticalCenterOffset: TextStyles.isLarge ? words.height / 2 : 0
         description: qsTr("Takes the deletion back")
         focus: true
         implicitWidth: undoText.implicitWidth + Metrics.padding * 2

@@ -45,14 +45,15 @@ Item {
         anchors.verticalCenterOffset: row.stacked ? -amountText.height / 2 : 0
         maximumLineCount: TextStyles.isLarge ? 3 : 1
         text: row.line.title
-        width: Math.min(implicitWidth, row.stacked ? row.room : row.roomBeside)
+        // Wrapped in a width of its own, a long word would change its implicit width, in a loop.
+        width: row.stacked ? row.room : Math.min(implicitWidth, row.roomBeside)
         wrapMode: TextStyles.isLarge ? Text.Wrap : Text.NoWrap
     }
     SystemImage {
         id: symbol
 
-        anchors.left: titleText.right
-        anchors.leftMargin: Metrics.step * 2
+        anchors.left: titleText.left
+        anchors.leftMargin: Math.min(titleText.contentWidth, titleText.width) + Metrics.step * 2
         anchors.verticalCenter: titleText.verticalCenter
         color: SystemColors.label
         height: Metrics.symbolSize
