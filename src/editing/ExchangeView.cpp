@@ -12,6 +12,7 @@
 
 #include <QDate>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <utility>
 
@@ -33,15 +34,25 @@ std::optional<qint64> countOf(const QString& storePath) {
     }
 }
 
-/// The day in a copy's name as the user writes days.
+/// A copy's name as the user writes days, and whether it is a store that was set aside: the same
+/// day can have both, and several of those.
 QString dayOf(const QString& name) {
-    const QDate date = QDate::fromString(name.right(10), Qt::ISODate);
+    static const QRegularExpression pattern(
+        QStringLiteral("^(set-aside-)?(\\d{4}-\\d\\d-\\d\\d)(?:-(\\d+))?$"));
+    const QRegularExpressionMatch match = pattern.match(name);
+    const QDate date = QDate::fromString(match.captured(2), Qt::ISODate);
     if (!date.isValid())
         return name;
     constexpr int noon = 12;
-    return localizedDateText(Instant(std::chrono::milliseconds(
-                                 date.startOfDay().addSecs(noon * 3600).toMSecsSinceEpoch())),
-                             QStringLiteral("yMMMMd"));
+    const QString day =
+        localizedDateText(Instant(std::chrono::milliseconds(
+                              date.startOfDay().addSecs(noon * 3600).toMSecsSinceEpoch())),
+                          QStringLiteral("yMMMMd"));
+    if (!match.hasCaptured(1))
+        return day;
+    const QString number = match.captured(3);
+    return ExchangeView::tr("Set aside on %1").arg(day) +
+           (number.isEmpty() ? number : u" (" + numberText(number.toInt()) + u')');
 }
 
 ImportOptions optionsFor(const QString& path, const std::atomic<bool>& isStopped) {

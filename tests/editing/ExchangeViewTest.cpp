@@ -43,6 +43,9 @@ TEST(ExchangeView, TakesOutBringsInAndGoesBack) {
                                        "Transactions now: 2\n"));
     view.proceed();
     EXPECT_EQ(said(view), "May 15, 2024\nTransactions now: 1");
+    view.showCopies();
+    EXPECT_EQ(said(view), "Go Back to a Copy\nMay 15, 2024 · Transactions: 1\n"
+                          "Set aside on May 15, 2024 · Transactions: 2");
     EXPECT_EQ(book.all().size(), 1U);
 
     view.importFrom(World::folder() + u"/none.csv");
