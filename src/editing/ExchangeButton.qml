@@ -42,7 +42,7 @@ BarButton {
         id: chooser
 
         onOpened: path => button.exchange.importFrom(path)
-        onSaved: path => button.exchange.exportTo(path)
+        onSaved: (path, mayReplace) => button.exchange.exportTo(path, mayReplace)
         onUnavailable: (saves, title, name) => qtDialog.setSource(Qt.resolvedUrl("QtFileDialog.qml"), {
                     "chooser": chooser,
                     "saves": saves,

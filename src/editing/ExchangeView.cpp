@@ -119,7 +119,17 @@ void ExchangeView::run(const QString& title, const std::function<Page()>& work) 
     Q_EMIT changed();
 }
 
-void ExchangeView::exportTo(const QString& path) {
+void ExchangeView::exportTo(const QString& path, bool mayReplace) {
+    if (!mayReplace && QFileInfo::exists(path)) {
+        stop();
+        show({.title = tr("Export"),
+              .lines = {QFileInfo(path).fileName(), tr("There is a file of this name already.")},
+              .details = {},
+              .choices = {},
+              .action = tr("Replace"),
+              .next = {[=, this] { exportTo(path, true); }}});
+        return;
+    }
     run(tr("Export"), [this, path]() -> Page {
         const auto format = formatOfFile(path).value_or(ExchangeFormat::csv);
         Store store(m_storePath, Transaction::entity(), Store::Access::read);

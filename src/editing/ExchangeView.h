@@ -47,7 +47,8 @@ class ExchangeView : public QObject {
     Q_INVOKABLE [[nodiscard]] static QString suggestedName();
 
     /// Writes all records to the file at `path`: as CSV, unless its name ends like one of JSON's.
-    Q_INVOKABLE void exportTo(const QString& path);
+    /// Without `mayReplace` it first asks whether to replace a file that is there.
+    Q_INVOKABLE void exportTo(const QString& path, bool mayReplace);
 
     /// Shows what importing the file at `path` would change.
     Q_INVOKABLE void importFrom(const QString& path);

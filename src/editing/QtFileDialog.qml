@@ -10,7 +10,10 @@ FileDialog {
     required property bool saves
     required property string suggestedName
 
+    acceptLabel: saves ? qsTr("Save") : qsTr("Open")
+    defaultSuffix: "csv"
     fileMode: saves ? FileDialog.SaveFile : FileDialog.OpenFile
+    nameFilters: saves ? ["CSV, JSON (*.csv *.json)"] : ["CSV, JSON (*.csv *.json *.jsonl *.tsv *.txt)", qsTr("All files") + " (*)"]
 
     Component.onCompleted: {
         if (saves)

@@ -19,7 +19,13 @@ TEST(ExchangeView, TakesOutBringsInAndGoesBack) {
     book.context.setAutomaticallyMergesChangesFromParent(true);
     ExchangeView view(book.context.storePath());
     const QString file = World::folder() + u"/out.csv";
-    view.exportTo(file);
+    view.exportTo(file, false);
+    EXPECT_EQ(said(view), "Exported\nTransactions: 2\nout.csv");
+    QFile(file).resize(0);
+    view.exportTo(file, false);
+    EXPECT_EQ(said(view), "Export\nout.csv\nThere is a file of this name already.");
+    EXPECT_EQ(QFileInfo(file).size(), 0) << "nobody has agreed";
+    view.proceed();
     EXPECT_EQ(said(view), "Exported\nTransactions: 2\nout.csv");
 
     book.context.deleteObject(*book.all().front());

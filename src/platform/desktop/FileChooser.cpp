@@ -102,12 +102,12 @@ void FileChooser::answer(const QDBusMessage& message) {
     const QStringList files = results.value(QStringLiteral("uris")).toStringList();
     if (files.isEmpty())
         return;
-    choose(QUrl(files.first()), m_saves);
+    choose(QUrl(files.first()), m_saves, true);
 }
 
-void FileChooser::choose(const QUrl& url, bool saves) {
+void FileChooser::choose(const QUrl& url, bool saves, bool mayReplace) {
     if (saves)
-        Q_EMIT saved(url.toLocalFile());
+        Q_EMIT saved(url.toLocalFile(), mayReplace);
     else
         Q_EMIT opened(url.toLocalFile());
 }

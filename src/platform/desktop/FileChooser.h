@@ -28,14 +28,15 @@ class FileChooser : public QObject {
     /// Asks for a file to write; `name` is suggested.
     Q_INVOKABLE void save(const QString& title, const QString& name);
 
-    /// Answers in the desktop's place with the file at `url`.
-    Q_INVOKABLE void choose(const QUrl& url, bool saves);
+    /// Answers in the desktop's place with the file at `url`, without `mayReplace`.
+    Q_INVOKABLE void choose(const QUrl& url, bool saves, bool mayReplace = false);
 
   Q_SIGNALS:
     /// The user has chosen the file at `path` to be read.
     void opened(const QString& path);
-    /// The user has chosen the file at `path` to be written.
-    void saved(const QString& path);
+    /// The user has chosen the file at `path` to be written; `mayReplace` where the desktop has
+    /// asked whether to replace one that is there.
+    void saved(const QString& path, bool mayReplace);
     /// The desktop has no such dialog.
     void unavailable(bool saves, const QString& title, const QString& name);
 

@@ -33,6 +33,9 @@ T.Menu {
         interactive: false
         model: menu.contentModel
     }
+    // Otherwise it would offer again, to Enter, what was chosen last.
+    onAboutToShow: currentIndex = -1
+
     enter: Transition {
         NumberAnimation {
             duration: Motion.duration(120)
