@@ -19,6 +19,9 @@ Item {
     /*! The height of the balance and of what parts it from the list. */
     readonly property real topHeight: banner.height + divider.height
 
+    // A balance that scrolls away, or is higher than the room, is not to be seen behind the bars.
+    clip: isShort
+
     Component.onCompleted: isComplete = true
 
     Banner {
