@@ -73,12 +73,11 @@ void fitTitleBar(QQuickWindow& window) {
         window.visibility() == QWindow::Maximized || window.visibility() == QWindow::FullScreen;
     if (window.flags().testFlag(Qt::FramelessWindowHint) == fills)
         return;
-    const QMargins bar = window.frameMargins();
+    const QMargins barBefore = window.frameMargins();
     window.setFlag(Qt::FramelessWindowHint, fills);
     // Unless the compositor happens to tell the size once more, Qt leaves the window as small as
-    // the bar made it, and black.
-    if (fills)
-        window.resize(window.size().grownBy(bar));
+    // the bar made it, and black; and without a new size, black when the bar comes back.
+    window.resize(window.size().grownBy(barBefore).shrunkBy(window.frameMargins()));
 }
 
 /// Keeps the window's motion, size of text and title bar as the desktop wants them.
