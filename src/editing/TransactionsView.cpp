@@ -31,13 +31,12 @@ bool TransactionsView::edit(int row) {
     // A delegate can still be tapped until the next frame after its record was deleted.
     if (row < 0 || row >= m_search.rowCount() || !transaction(row).exists())
         return false;
-    m_formBefore = std::move(m_form);
-    // The form before may save while its page slides off: this one's page stays then.
-    const PresentationMode page([this, opened = ++m_formsOpened] {
-        if (opened == m_formsOpened)
+    // A form before may save while its page slides off: this one's page stays then.
+    const PresentationMode page([this, number = m_forms.size()] {
+        if (number == m_forms.size() - 1)
             Q_EMIT formDismissed();
     });
-    m_form = std::make_unique<AddTransactionView>(m_viewContext, &transaction(row), page);
+    m_forms.push_back(std::make_unique<AddTransactionView>(m_viewContext, &transaction(row), page));
     Q_EMIT formChanged();
     return true;
 }

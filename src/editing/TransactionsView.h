@@ -8,6 +8,7 @@
 
 #include <QtQml/qqmlregistration.h>
 #include <memory>
+#include <vector>
 
 namespace kovamo {
 
@@ -33,7 +34,9 @@ class TransactionsView : public LiveFetch {
 
     [[nodiscard]] static QString navigationTitle() { return tr("Transactions"); }
 
-    [[nodiscard]] AddTransactionView* form() const { return m_form.get(); }
+    [[nodiscard]] AddTransactionView* form() const {
+        return m_forms.empty() ? nullptr : m_forms.back().get();
+    }
 
     /// How the records go out and come in.
     [[nodiscard]] ExchangeView* exchange() { return &m_exchange; }
@@ -68,10 +71,8 @@ class TransactionsView : public LiveFetch {
     ExchangeView m_exchange;
     TransactionSearch m_search;
     DeletedTransactions m_deleted;
-    std::unique_ptr<AddTransactionView> m_form;
-    // Kept until its page has slid off the screen, which still shows it.
-    std::unique_ptr<AddTransactionView> m_formBefore;
-    int m_formsOpened = 0;
+    // The last is the one on top. The pages of those before may still be sliding off the screen.
+    std::vector<std::unique_ptr<AddTransactionView>> m_forms;
 };
 
 } // namespace kovamo
