@@ -47,7 +47,6 @@ QString NumberFormatter::string(std::int64_t number) const {
     const std::unique_ptr<icu::NumberFormat> format(icu::NumberFormat::createInstance(
         moneyLocale(), numberStyle == Style::currency ? UNUM_CURRENCY : UNUM_DECIMAL, status));
     require(status, "numbers");
-    format->setMinimumFractionDigits(0);
     format->setMaximumFractionDigits(0);
     icu::UnicodeString text;
     format->format(number, text);
