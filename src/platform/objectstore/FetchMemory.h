@@ -20,8 +20,9 @@ class FetchMemory {
 
     /// Remembers what `request` gave, and forgets the oldest where there is no room left.
     void keep(const FetchRequest& request, std::vector<ManagedObject*> objects) {
-        // A screen's parts ask for the same: the one-off records of a period, and the recurring.
-        constexpr std::size_t room = 2;
+        // A screen's parts ask for the same, and again when the user goes to another choice and
+        // back.
+        constexpr std::size_t room = 4;
         if (m_fetches.size() == room)
             m_fetches.pop_front();
         m_fetches.emplace_back(request, std::move(objects));
