@@ -31,7 +31,8 @@ void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
         context,
         Predicate(QStringLiteral("startDate >= %@ AND startDate < %@ AND isRecurring == NO"),
                   {start, end}));
-    list.reserve(list.size() + std::ssize(oneOff));
+    const auto recurring = fetched(context, Predicate(QStringLiteral("isRecurring == YES")));
+    list.reserve(list.size() + std::ssize(oneOff) + std::ssize(recurring));
     for (const Transaction* transaction : oneOff) {
         willAppend();
         list.emplace_back(*transaction);
@@ -39,8 +40,7 @@ void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
 
     const std::vector<MonthSlot> slots = monthSlots(timeFrame);
     const Calendar calendar;
-    for (const Transaction* transaction :
-         fetched(context, Predicate(QStringLiteral("isRecurring == YES"))))
+    for (const Transaction* transaction : recurring)
         if (const auto presentation =
                 expanded(TransactionPresentation(*transaction), slots, calendar)) {
             willAppend();
