@@ -53,7 +53,7 @@ TransactionChart::TransactionChart(ManagedObjectContext& context, TimeFrame time
     if (year.string(startDate) != year.string(endDate))
         stackDateFormat.dateFormat = QStringLiteral("MM/dd/yy");
     gatherTransactions(timeFrame, context, transactions);
-    transactions = radixSorted(std::move(transactions), [](const auto& transaction) {
+    radixSortInPlace(transactions, [](const auto& transaction) {
         const Instant start = required(transaction.id, transaction.startDate, "startDate");
         return sortKey(start.time_since_epoch().count());
     });

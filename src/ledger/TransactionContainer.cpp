@@ -54,9 +54,8 @@ void TransactionContainer::fetchTransactions(TimeFrame timeFrame, ManagedObjectC
     m_slots = monthSlots(timeFrame);
     gatherTransactions(timeFrame, context, m_transactions, [this] { Q_EMIT objectWillChange(); });
     Q_EMIT objectWillChange();
-    m_transactions = radixSorted(std::move(m_transactions), [](const auto& transaction) {
-        return ~sortKey(transaction.amount);
-    });
+    radixSortInPlace(m_transactions,
+                     [](const auto& transaction) { return ~sortKey(transaction.amount); });
 }
 
 } // namespace kovamo

@@ -22,14 +22,17 @@ template<std::signed_integral T>
 /// records.
 template<typename T, typename Key>
 void radixSort(std::vector<T>& values, Key key) {
+    std::uint64_t differing = 0;
+    for (const T& value : values)
+        differing |= std::invoke(key, value) ^ std::invoke(key, values.front());
     std::vector<T> sorted(values.size());
     for (int shift = 0; shift < 64; shift += 8) {
         const auto digit = [&](const T& value) { return std::invoke(key, value) >> shift & 0xFF; };
+        if ((differing >> shift & 0xFF) == 0)
+            continue;
         std::array<std::size_t, 257> starts{};
         for (const T& value : values)
             ++starts[digit(value) + 1];
-        if (std::ranges::find(starts, values.size()) != starts.end())
-            continue;
         std::partial_sum(starts.begin(), starts.end(), starts.begin());
         for (const T& value : values)
             sorted[starts[digit(value)]++] = value;
@@ -39,7 +42,7 @@ void radixSort(std::vector<T>& values, Key key) {
 
 /// Sorts a random-access container likewise, each element moved once: for elements that are large.
 template<typename List, typename Key>
-[[nodiscard]] List radixSorted(List list, Key key) {
+void radixSortInPlace(List& list, Key key) {
     struct Origin {
         std::uint64_t key;
         std::size_t place;
@@ -49,12 +52,20 @@ template<typename List, typename Key>
     for (const auto& element : std::as_const(list))
         origins.push_back({std::invoke(key, element), origins.size()});
     radixSort(origins, &Origin::key);
-    List sorted;
-    sorted.reserve(list.size());
-    const auto element = list.begin();
-    for (const Origin& origin : origins)
-        sorted.push_back(std::move(element[static_cast<typename List::size_type>(origin.place)]));
-    return sorted;
+    // Each circle of elements that take one another's places, from its first one on.
+    const auto at = [elements = list.begin()](std::size_t place) -> auto& {
+        return elements[static_cast<typename List::difference_type>(place)];
+    };
+    for (std::size_t first = 0; first < origins.size(); ++first) {
+        if (origins[first].place == first)
+            continue;
+        auto displaced = std::move(at(first));
+        std::size_t to = first;
+        for (std::size_t from = 0; (from = std::exchange(origins[to].place, to)) != first;
+             to = from)
+            at(to) = std::move(at(from));
+        at(to) = std::move(displaced);
+    }
 }
 
 } // namespace kovamo
