@@ -75,6 +75,8 @@ StoreCopy::StoreCopy(SQLite::Database& source, const QString& storePath)
     // The name is given last: nobody opens the copy before it is complete and on the disk.
     m_target->exec("PRAGMA journal_mode = OFF");
     m_target->exec("PRAGMA synchronous = OFF");
+    // In kibibytes: what is written here is never read.
+    m_target->exec("PRAGMA cache_size = -64");
     m_backup.emplace(*m_target, source);
 }
 
