@@ -5,6 +5,7 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QRect>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
@@ -42,7 +43,11 @@ class Bus : public QObject, public testing::Test {
         environment.insert("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
         environment.insert("QT_QPA_PLATFORM", "xcb");
         app.setProcessEnvironment(environment);
-        app.start(QStringLiteral(KOVAMO_EXECUTABLE), {QStringLiteral("--demo")});
+    }
+    void start(const QStringList& arguments = {}, QProcess* other = nullptr) {
+        QProcess& process = other ? *other : app;
+        process.setProcessEnvironment(app.processEnvironment());
+        process.start(QStringLiteral(KOVAMO_EXECUTABLE), arguments);
     }
     ~Bus() override {
         app.kill();
@@ -136,6 +141,13 @@ class Bus : public QObject, public testing::Test {
         }
         return names;
     }
+    /// The names of all that shows.
+    QStringList names(const Element& parent) const {
+        QStringList found;
+        for (const Element& element : read(parent))
+            found.append(property(element, "Name"));
+        return found;
+    }
     Element find(const char* name, const char* description = "") const {
         for (const Element& element : read(registry))
             if (property(element, "Name") == QString::fromUtf8(name) &&
@@ -178,6 +190,7 @@ class Bus : public QObject, public testing::Test {
 };
 
 TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
+    start({"--demo"});
     const Element tab = await("3 Months");
     expectReadable();
     await("Salary, earning, $3,200, monthly");
@@ -186,6 +199,9 @@ TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
     EXPECT_TRUE(soon([&] { return !said.isEmpty(); }));
     EXPECT_TRUE(said.value(0).startsWith(u"Your Kovamo is positive 👍. Balance $"));
     EXPECT_TRUE(is(selected, tab) && !is(checked, tab));
+    await("Salary, earning, $9,600, monthly, 3 times");
+    const QRegularExpression oneOff("^Freelance website, earning, \\$420, \\w+ 18, \\d{4}$");
+    EXPECT_TRUE(soon([&] { return names(registry).filter(oneOff).size() == 1; }));
 
     const Element button = await("Add Item", "Shows all transactions");
     act(button, QStringLiteral("SetFocus"));
@@ -195,8 +211,10 @@ TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
     EXPECT_TRUE(read(row).isEmpty()) << "a row reads as one";
     expectReadable();
     EXPECT_FALSE(is(focused, button));
+    said.clear();
     act(row, QStringLiteral("Delete"));
     EXPECT_TRUE(awaitNo("Rent, spending, $1,150, monthly"));
+    EXPECT_TRUE(soon([&] { return !said.filter(" deleted").isEmpty(); }));
     act(await("Dismiss"));
     EXPECT_TRUE(awaitNo("Dismiss"));
     EXPECT_TRUE(is(focused, button)) << "the sheet gives the focus back";
@@ -214,9 +232,33 @@ TEST_F(Bus, TellsAScreenReaderAllThatIsSeen) {
     expectReadable();
     act(pizza);
     await("Choose an emoji");
+    act(await("Recurring"));
+    act(await("End"));
+    const auto days = [this](bool offered) {
+        qsizetype count = 0;
+        for (const Element& element : read(registry))
+            count += role(element) == u"radio button" && is(sensitive, element) == offered &&
+                     property(element, "Name").contains(QRegularExpression("\\d"));
+        return count;
+    };
+    // The new transaction begins today.
+    EXPECT_TRUE(soon([&] { return days(true) > 0; }));
+    EXPECT_EQ(days(false), QDate::currentDate().day() - 1);
     const QDBusReply<QString> field =
         call(await("Emoji"), "org.a11y.atspi.Text", "GetText", {0, -1});
     EXPECT_EQ(field.value(), QString::fromUtf8("🍕"));
+}
+
+TEST_F(Bus, ShowsWhatASecondStartAsksFor) {
+    start();
+    EXPECT_EQ(role(await("Page 1 of 4")), u"label");
+    for (const char* button : {"Next", "Next", "Next", "Get Started"})
+        act(await(button));
+    await("Add Item", "Records a new transaction");
+    QProcess second;
+    start({"--new-transaction"}, &second);
+    await("Amount");
+    EXPECT_TRUE(soon([&] { return second.state() == QProcess::NotRunning; }));
 }
 
 } // namespace
