@@ -24,8 +24,9 @@ class AnyView {
   public:
     AnyView() = default;
 
-    template<View V>
-    requires(!std::same_as<V, AnyView>) AnyView(V view)
+    // In this order: whether AnyView can be copied is not asked before it is told apart.
+    template<class V>
+    requires(!std::same_as<V, AnyView> && View<V>) AnyView(V view)
         : m_paint(std::make_shared<const Paint>(
               [held = std::move(view)](QPainter& painter, const QRectF& rect,
                                        const EnvironmentValues& environment) {
