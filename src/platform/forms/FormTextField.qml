@@ -25,7 +25,7 @@ FormRow {
     /*! The end of a text that is longer than Qt can lay out in a moment. Such a text can be cleared,
         but not edited: an edit would change the part that shows and keep the one that does not. */
     property string unseen
-    readonly property int longest: 100000
+    readonly property int longest: 4000
 
     // Characters that the owner rejects lie before the caret: keep its distance from the end.
     function follow() {
