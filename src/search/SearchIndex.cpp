@@ -68,7 +68,9 @@ SearchIndex::Entry SearchIndex::entry(ObjectID id, std::span<const Value> values
     const auto attribute = [values]<typename T>(Transaction::Attribute name, T otherwise) {
         return valueOr(values[name], std::move(otherwise));
     };
-    const std::string title = searchText(attribute(Transaction::Title, QString()));
+    // Another program can store a title of any length, and to fold it takes several times as much.
+    constexpr qsizetype longest = 100'000;
+    const std::string title = searchText(attribute(Transaction::Title, QString()).left(longest));
     const QString type = attribute(Transaction::RecurringType, QString());
     const bool isRecurring = attribute(Transaction::IsRecurring, false);
     const Recurs recurs = !isRecurring         ? Recurs::never
