@@ -13,7 +13,7 @@ function(kovamo_strict target)
         get_target_property(sources ${target} SOURCES)
         list(FILTER sources EXCLUDE REGEX "^${PROJECT_BINARY_DIR}/")
         set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS
-            "-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Wnon-virtual-dtor;-Werror")
+            "-Wall;-Wextra;-Wpedantic;-Wconversion;-Wshadow;-Wnon-virtual-dtor;-Werror;$<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>")
     endif()
 endfunction()
 
