@@ -6,6 +6,7 @@
 #include "support/FastQueue.h"
 #include "support/Hand.h"
 
+#include <QAccessible>
 #include <QQmlEngine>
 #include <QTest>
 
@@ -42,6 +43,40 @@ class Visit {
             << name.toStdString();
         (void)m_window->grabWindow(); // lays out what has just come
         kovamo::click(*m_window, middle(named(*m_window, name, description)));
+    }
+    /// What can be seen and pressed, sheets' last. A menu's line has no role while nobody listens.
+    [[nodiscard]] std::vector<std::pair<QAccessibleInterface*, QSizeF>> targets() const {
+        static const QSet roles{QAccessible::Button,     QAccessible::ButtonMenu,
+                                QAccessible::CheckBox,   QAccessible::ListItem,
+                                QAccessible::MenuItem,   QAccessible::PageTab,
+                                QAccessible::RadioButton};
+        std::vector<std::pair<QAccessibleInterface*, QSizeF>> found;
+        (void)m_window->grabWindow(); // lays out what has just come
+        (void)findItem(*m_window, [&](const QQuickItem& item) {
+            auto* element = QAccessible::queryAccessibleInterface(&const_cast<QQuickItem&>(item));
+            if (item.isVisible() && element &&
+                ((roles.contains(element->role()) && !element->text(QAccessible::Name).isEmpty()) ||
+                 item.inherits("QQuickMenuItem")))
+                found.emplace_back(element, item.size());
+            return false;
+        });
+        return found;
+    }
+    /// Presses an element as a screen reader does, wherever it is.
+    void act(const QString& name) const {
+        for (const auto& [element, size] : targets())
+            if (element->text(QAccessible::Name) == name)
+                return element->actionInterface()->doAction(
+                    QAccessibleActionInterface::pressAction());
+        ADD_FAILURE() << "nothing to press is " << name.toStdString();
+    }
+    /// The names of those that are smaller than a finger.
+    [[nodiscard]] std::string smallTargets() const {
+        QString small;
+        for (const auto& [element, size] : targets())
+            if (std::min(size.width(), size.height()) < 44)
+                small += element->text(QAccessible::Name) + u'|';
+        return small.toStdString();
     }
     void clickBesideTheSheet() { kovamo::click(*m_window, {200, 10}); }
     /// Does `leave`, and while what it moves has hardly begun to, presses Ctrl and a key.
@@ -173,6 +208,37 @@ TEST_F(App, HasTheMeasuresOfItsDesign) {
     visit.click("Add Item", "Records a new transaction");
     EXPECT_TRUE(visit.shows("New Transaction"));
     EXPECT_EQ(visit.measure("FormSection_QML", "radius"), 10);
+}
+
+TEST_F(App, HasNothingToPressThatAFingerMisses) {
+    Book book({{50}, {40, "2024-05-15", "monthly"}});
+    Visit visit(book);
+    visit.resize({320, 480});
+    struct Step {
+        const char* presses; // an element, or a letter with Ctrl
+        const char* shows;
+    };
+    const Step steps[] = {{"n", "New Transaction"},
+                          {"Date", "Next month"},
+                          {"May 2024", "Dec"},
+                          {"Recurring", "End"},
+                          {"Choose an emoji", "Search emoji"},
+                          {"Cancel", "New Transaction"},
+                          {"Dismiss", "12 Months"},
+                          {"l", "Transactions"},
+                          {"f", "Search transactions"},
+                          {"Cancel", "Transactions"},
+                          {"Share", "Import…"}};
+    EXPECT_TRUE(visit.has("12 Months"));
+    EXPECT_EQ(visit.smallTargets(), "");
+    for (const auto& [presses, shows] : steps) {
+        if (presses[1] == 0)
+            visit.press(Qt::Key(Qt::Key_A + presses[0] - 'a'), Qt::ControlModifier);
+        else
+            visit.act(presses);
+        EXPECT_TRUE(visit.has(shows)) << presses << ", " << shows;
+        EXPECT_EQ(visit.smallTargets(), "") << shows;
+    }
 }
 
 TEST_F(App, ChangesTheTimeFrame) {
