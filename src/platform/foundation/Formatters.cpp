@@ -3,6 +3,7 @@
 #include "FatalError.h"
 #include "Locale.h"
 
+#include <map>
 #include <memory>
 #include <unicode/datefmt.h>
 #include <unicode/numfmt.h>
@@ -40,16 +41,32 @@ QString patternText(Instant instant, const QString& pattern, const icu::Locale& 
     return formatted(format, instant);
 }
 
+/// ICU's format of whole numbers in the user's locale for money. To make one costs as much as many
+/// texts, so each thread keeps the last of a style.
+const icu::NumberFormat& numberFormat(UNumberFormatStyle style) {
+    struct Kept {
+        icu::Locale locale;
+        std::unique_ptr<icu::NumberFormat> format;
+    };
+    thread_local std::map<UNumberFormatStyle, Kept> formats;
+    const icu::Locale locale = moneyLocale();
+    Kept& kept = formats[style];
+    if (!kept.format || kept.locale != locale) {
+        UErrorCode status = U_ZERO_ERROR;
+        kept = {locale, std::unique_ptr<icu::NumberFormat>(
+                            icu::NumberFormat::createInstance(locale, style, status))};
+        require(status, "numbers");
+        kept.format->setMaximumFractionDigits(0);
+    }
+    return *kept.format;
+}
+
 } // namespace
 
 QString NumberFormatter::string(std::int64_t number) const {
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::NumberFormat> format(icu::NumberFormat::createInstance(
-        moneyLocale(), numberStyle == Style::currency ? UNUM_CURRENCY : UNUM_DECIMAL, status));
-    require(status, "numbers");
-    format->setMaximumFractionDigits(0);
     icu::UnicodeString text;
-    format->format(number, text);
+    numberFormat(numberStyle == Style::currency ? UNUM_CURRENCY : UNUM_DECIMAL)
+        .format(number, text);
     if (text.isEmpty())
         fatalError(QStringLiteral("The formatter returned no text for %1").arg(number));
     return toQt(text);
