@@ -68,8 +68,7 @@ void FileChooser::ask(bool saves, const QString& title, const QString& name) {
         portal(), QStringLiteral("/org/freedesktop/portal/desktop"),
         QStringLiteral("org.freedesktop.portal.FileChooser"),
         saves ? QStringLiteral("SaveFile") : QStringLiteral("OpenFile"));
-    QVariantMap options{{QStringLiteral("handle_token"), token},
-                        {QStringLiteral("modal"), true}};
+    QVariantMap options{{QStringLiteral("handle_token"), token}, {QStringLiteral("modal"), true}};
     if (saves)
         options.insert(QStringLiteral("current_name"), name);
     call.setArguments({parentWindow(), title, options});
