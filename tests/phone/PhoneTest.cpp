@@ -186,5 +186,18 @@ TEST_F(Phone, ShowsTheAppUprightAndTurnedWithTheKeyboardUp) {
     EXPECT_TRUE(soon([&] { return caret().x() == typed.x(); })) << "what was typed is lost";
 }
 
+TEST_F(Phone, TakesTheFirstTapOnAMenu) {
+    ASSERT_TRUE(fills(upright));
+    const auto isBehindDarker = [&](int gray) { return qGray(screen().pixel(180, 10)) < gray; };
+    const auto hasMenu = [&] { return contains(screen(), {215, 190, 40, 25}, black); };
+    finger->tap({22, 22}, upright);
+    ASSERT_TRUE(soon([&] { return contains(screen(), {313, 46, 44, 44}, accent); }));
+    EXPECT_TRUE(isBehindDarker(210) && !hasMenu());
+    finger->tap({335, 68}, upright);
+    ASSERT_TRUE(soon(hasMenu));
+    finger->tap({230, 200}, upright);
+    EXPECT_TRUE(soon([&] { return isBehindDarker(180); })) << "the copies are not shown";
+}
+
 } // namespace
 } // namespace kovamo

@@ -90,6 +90,8 @@ FocusScope {
         TapHandler {
             // Takes taps on the card, which would otherwise reach the area that dismisses.
             gesturePolicy: TapHandler.WithinBounds
+            // Without this, it takes on Wayland the first tap on a menu that a button of the card opened.
+            grabPermissions: PointerHandler.CanTakeOverFromHandlersOfDifferentType | PointerHandler.ApprovesTakeOverByAnything
         }
         Item {
             id: slot
