@@ -155,10 +155,8 @@ FormRow {
         onPressAndHold: event => event.accepted = field.hold(event.x, event.y)
         onTextEdited: field.take()
 
-        TapHandler {
-            acceptedButtons: Qt.RightButton
-
-            onTapped: eventPoint => field.showMenu(eventPoint.position.x, eventPoint.position.y, false)
+        RightClick {
+            onClicked: (x, y) => field.showMenu(x, y, false)
         }
         TapHandler {
             id: finger

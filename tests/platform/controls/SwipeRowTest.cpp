@@ -79,6 +79,18 @@ TEST(SwipeRow, ClosesAsTheWheelMovesItsList) {
     }
 }
 
+TEST(SwipeRow, KeepsItsMenuFromTapsOfAFinger) {
+    Stage stage(rows, false);
+    QPointingDevice* finger = QTest::createTouchDevice();
+    QTest::touchEvent(stage.window(), finger).press(0, {100, 20});
+    QTest::touchEvent(stage.window(), finger).release(0, {100, 20});
+    EXPECT_EQ(stage.log(), "clicked 0");
+    EXPECT_EQ(shown(*stage.window(), "Delete", false), nullptr);
+    stage.click({100, 20}, Qt::RightButton);
+    EXPECT_EQ(stage.log(), "clicked 0");
+    EXPECT_TRUE(Stage::soon([&] { return shown(*stage.window(), "Delete", false); }));
+}
+
 TEST(SwipeRow, TakesATapForOneWhereTheAppWasBusy) {
     Stage stage(rows, false);
     QTest::mousePress(stage.window(), Qt::LeftButton, {}, {100, 20});

@@ -35,6 +35,15 @@ DeletableRow {
         menu.popup(row, x + Metrics.step, y + Metrics.step);
     }
 
+    /*! Opens the row, or closes it where it is pulled aside. In Qt 6.4, right clicks come here, too, on
+        Wayland. */
+    function take(button: int) {
+        if (button === Qt.RightButton)
+            return;
+        row.forceActiveFocus(Qt.MouseFocusReason);
+        row.offset > 0 ? row.close() : row.clicked();
+    }
+
     function slide(to: real) {
         movement.to = to;
         movement.restart();
@@ -135,15 +144,10 @@ DeletableRow {
 
                 onLongPressed: letGo.start()
                 onPressedChanged: letGo.stop()
-                onTapped: {
-                    row.forceActiveFocus(Qt.MouseFocusReason);
-                    row.offset > 0 ? row.close() : row.clicked();
-                }
+                onTapped: (eventPoint, button) => row.take(button)
             }
-            TapHandler {
-                acceptedButtons: Qt.RightButton
-
-                onTapped: eventPoint => row.showMenu(eventPoint.position.x, eventPoint.position.y)
+            RightClick {
+                onClicked: (x, y) => row.showMenu(x, y)
             }
             DragHandler {
                 id: drag
