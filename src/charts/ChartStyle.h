@@ -31,8 +31,9 @@ struct AnyChartStyle {
     using MakeBody = std::function<AnyView(const ChartStyleConfiguration&)>;
     std::shared_ptr<const MakeBody> styleMakeBody;
 
-    template<ChartStyle S>
-    requires(!std::same_as<S, AnyChartStyle>) explicit AnyChartStyle(S style)
+    // In this order: whether AnyChartStyle can be copied is not asked before it is told apart.
+    template<class S>
+    requires(!std::same_as<S, AnyChartStyle> && ChartStyle<S>) explicit AnyChartStyle(S style)
         : styleMakeBody(std::make_shared<const MakeBody>(
               [held = std::move(style)](const ChartStyleConfiguration& configuration) {
                   return AnyView(held.makeBody(configuration));

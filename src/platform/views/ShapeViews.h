@@ -25,6 +25,10 @@ struct FilledShape {
     }
 };
 
+// Clang before 17 finds the arguments of an aggregate only by a guide.
+template<Shape S, ShapeStyle F>
+FilledShape(S, F) -> FilledShape<S, F>;
+
 /// How an outline is drawn: its width in points and its ends; joins are mitred up to ten widths.
 struct StrokeStyle {
     double lineWidth = 1;
@@ -52,6 +56,9 @@ struct StrokedShape {
     }
 };
 
+template<Shape S, ShapeStyle F>
+StrokedShape(S, F, StrokeStyle) -> StrokedShape<S, F>;
+
 /// The part of a shape's path between two fractions of its length.
 template<Shape S>
 struct TrimmedShape {
@@ -63,5 +70,8 @@ struct TrimmedShape {
         return trimmed(shape.path(rect), from, to);
     }
 };
+
+template<Shape S>
+TrimmedShape(S, double, double) -> TrimmedShape<S>;
 
 } // namespace kovamo

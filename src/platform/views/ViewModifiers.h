@@ -29,6 +29,10 @@ struct PaddedView {
     }
 };
 
+// Clang before 17 finds the arguments of an aggregate only by a guide.
+template<View V>
+PaddedView(V, QMarginsF) -> PaddedView<V>;
+
 /// A view cut off, with smooth edges, outside of a shape's inside.
 template<View V, Shape S>
 struct ClippedView {
@@ -45,6 +49,9 @@ struct ClippedView {
         painter.restore();
     }
 };
+
+template<View V, Shape S>
+ClippedView(V, S) -> ClippedView<V, S>;
 
 /// A view that is told `value` for `K`, with all that it encloses.
 template<View V, EnvironmentKey K>
