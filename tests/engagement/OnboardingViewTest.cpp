@@ -47,7 +47,7 @@ TEST(Onboarding, ItsDotsFollowTheButtonAndTheFinger) {
     for (const auto& [by, page] : {std::pair(300, 2), {-300, 3}}) {
         EXPECT_TRUE(pages.rests());
         pages.stage.drag({195 - by / 2, 300}, {by, 0});
-        EXPECT_TRUE(Stage::soon([&] { return pages.state.currentPage() == page; }));
+        EXPECT_TRUE(Stage::soon([&, page = page] { return pages.state.currentPage() == page; }));
     }
 }
 

@@ -181,7 +181,7 @@ TEST_F(NothingLost, WhenAnyCallFails) {
                     addAndSave(book, {500, 300});
                     std::raise(SIGKILL); // its log is left
                 });
-                const Fork app([&] {
+                const Fork app([&, work = work] {
                     FaultyDisk::fail(work ? SQLITE_OK : code, call);
                     auto& context = PersistenceController::shared().container->viewContext();
                     TransactionsView list(context);
