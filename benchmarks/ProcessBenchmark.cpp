@@ -140,7 +140,7 @@ class Desktop {
                           QStringList{QStringLiteral("--config-file"), m_configuration,
                                       QStringLiteral("--print-address")});
         qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address.toLatin1());
-        qputenv("DISPLAY", ':' + m_display.address.toLatin1());
+        qputenv("DISPLAY", QByteArray(":" + m_display.address.toLatin1()));
         qputenv("QT_QPA_PLATFORM", "xcb");
         qputenv("XDG_RUNTIME_DIR", m_folder.path().toLocal8Bit());
     }
