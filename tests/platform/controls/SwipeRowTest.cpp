@@ -81,7 +81,8 @@ TEST(SwipeRow, ClosesAsTheWheelMovesItsList) {
 
 TEST(SwipeRow, KeepsItsMenuFromTapsOfAFinger) {
     Stage stage(rows, false);
-    QPointingDevice* finger = QTest::createTouchDevice();
+    // Qt keeps it in its list of devices.
+    static QPointingDevice* const finger = QTest::createTouchDevice();
     QTest::touchEvent(stage.window(), finger).press(0, {100, 20});
     QTest::touchEvent(stage.window(), finger).release(0, {100, 20});
     EXPECT_EQ(stage.log(), "clicked 0");
