@@ -3,16 +3,12 @@
 #include "platform/views/ShapeViews.h"
 #include "shapes/Line.h"
 
-#include <cmath>
-
 namespace kovamo {
 
 std::vector<QRectF> paintedColumnFrames(const QPainter& painter,
                                         std::span<const ColumnData> columns, double spacing,
                                         const QRectF& bounds) {
-    const QTransform& device = painter.deviceTransform();
-    const double pixel = 1 / std::hypot(device.m11(), device.m12());
-    return visibleColumnFrames(columns, spacing, bounds, pixel);
+    return visibleColumnFrames(columns, spacing, bounds, pixelWidth(painter));
 }
 
 void paintZeroLine(QPainter& painter, const QRectF& rect, Qt::Orientation axis,

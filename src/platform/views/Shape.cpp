@@ -45,12 +45,20 @@ QPainterPath Rectangle::path(const QRectF& rect) const {
     return path;
 }
 
+double Capsule::cornerRadius(const QRectF& rect) const {
+    return std::min(rect.width(), rect.height()) / 2;
+}
+
 QPainterPath Capsule::path(const QRectF& rect) const {
-    return RoundedRectangle{std::min(rect.width(), rect.height()) / 2}.path(rect);
+    return RoundedRectangle{cornerRadius(rect)}.path(rect);
+}
+
+double RoundedRectangle::cornerRadius(const QRectF& rect) const {
+    return std::min(radius, Capsule{}.cornerRadius(rect));
 }
 
 QPainterPath RoundedRectangle::path(const QRectF& rect) const {
-    const double fitting = std::min(radius, std::min(rect.width(), rect.height()) / 2);
+    const double fitting = cornerRadius(rect);
     if (!(fitting > 0))
         return Rectangle{}.path(rect);
     if (continuous)

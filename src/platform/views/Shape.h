@@ -12,6 +12,12 @@ concept Shape = std::copyable<S> && requires(const S shape, const QRectF& rect) 
     { shape.path(rect) } -> std::same_as<QPainterPath>;
 };
 
+/// A shape that is a rectangle with corners rounded by so many points.
+template<class S>
+concept RoundedShape = Shape<S> && requires(const S shape, const QRectF& rect) {
+    { shape.cornerRadius(rect) } -> std::same_as<double>;
+};
+
 /// The whole rectangle.
 struct Rectangle {
     [[nodiscard]] QPainterPath path(const QRectF& rect) const;
@@ -19,6 +25,7 @@ struct Rectangle {
 
 /// The rectangle with its two short ends rounded to half circles.
 struct Capsule {
+    [[nodiscard]] double cornerRadius(const QRectF& rect) const;
     [[nodiscard]] QPainterPath path(const QRectF& rect) const;
 };
 
@@ -29,6 +36,7 @@ struct RoundedRectangle {
     double radius = 0;
     bool continuous = false;
 
+    [[nodiscard]] double cornerRadius(const QRectF& rect) const;
     [[nodiscard]] QPainterPath path(const QRectF& rect) const;
 };
 
