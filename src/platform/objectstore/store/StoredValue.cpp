@@ -1,6 +1,7 @@
 #include "StoredValue.h"
 
 #include <QStringDecoder>
+#include <sqlite3.h>
 #include <utility>
 
 namespace kovamo {
@@ -35,11 +36,12 @@ void bind(SQLite::Statement& statement, int index, const Value& value) {
 }
 
 std::optional<Value> valueOf(const SQLite::Column& column, const AttributeDescription& attribute) {
-    if (column.isNull())
+    const int type = column.getType();
+    if (type == SQLITE_NULL)
         return attribute.isOptional ? std::optional<Value>(Value()) : std::nullopt;
     const bool isText =
         attribute.type == AttributeType::string || attribute.type == AttributeType::uuid;
-    if (isText ? !column.isText() : !column.isInteger())
+    if (type != (isText ? SQLITE_TEXT : SQLITE_INTEGER))
         return std::nullopt;
     switch (attribute.type) {
     case AttributeType::integer32:
@@ -53,7 +55,7 @@ std::optional<Value> valueOf(const SQLite::Column& column, const AttributeDescri
     case AttributeType::date:
         return Instant(std::chrono::milliseconds(column.getInt64()));
     case AttributeType::uuid: {
-        const auto id = QUuid::fromString(textOf(column));
+        const auto id = QUuid::fromString(QLatin1String(column.getText(), column.getBytes()));
         return id.isNull() ? Value() : Value(id);
     }
     }
