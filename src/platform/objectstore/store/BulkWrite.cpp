@@ -10,6 +10,8 @@ namespace kovamo {
 BulkWrite::BulkWrite(Store& store) : m_store(store) {
     store.prepareToWrite();
     guarded(m_store.m_path, [&] {
+        // In kibibytes: every record goes into a page of each index that any other may be in, too.
+        store.m_connection->database().exec("PRAGMA cache_size = -2000");
         m_inserting = store.m_connection->statements().use(store.m_table.insertion);
         m_updating = store.m_connection->statements().use(store.m_table.update);
         m_transaction.emplace(store.m_connection->database(),

@@ -41,6 +41,9 @@ void StoreConnection::open() {
     m_database = std::make_unique<SQLite::Database>(m_path.toStdString(),
                                                     SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
     waitForOthers();
+    // In kibibytes. The records of a screen lie anywhere in the file, and are read once: of a
+    // larger cache, a start has only the page faults.
+    m_database->exec("PRAGMA cache_size = -256");
     m_statements = std::make_unique<StatementCache>(*m_database);
     // Otherwise SQLite takes a misspelt column in double quotes for a text constant.
     sqlite3_db_config(m_database->getHandle(), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
