@@ -106,7 +106,7 @@ int draw(const Options& options) {
     return drawPictures(*window, root, viewContext(app), appearances, *options.pictures) ? 0 : 1;
 }
 
-int show(const Options& options) {
+int show(const Options& options, const PersistentContainer& store) {
     const DesktopSettings desktop(!options.appearance);
     std::optional<SoleInstance> instance;
     if (!options.isDemo)
@@ -114,7 +114,6 @@ int show(const Options& options) {
                          options.start);
     if (instance && instance->handedOver())
         return 0;
-    const PersistentContainer store(QStringLiteral("Kovamo"), Transaction::entity());
     notifyOfFatalErrors(store.storePath());
     // Here the store is opened, or the process ends.
     const KovamoApp app{PersistenceController::shared()};
@@ -161,10 +160,13 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     chooseRenderer();
     OnScreenKeyboard::takeFromQt();
+    const PersistentContainer store(QStringLiteral("Kovamo"), Transaction::entity());
+    // While Qt starts.
+    store.readAhead();
     int qtArguments = 1;
     const QGuiApplication application(qtArguments, argv);
     setUpApplication();
     if (options.appearance)
         SystemColors::shared().setColorScheme(*options.appearance);
-    return options.pictures ? draw(options) : show(options);
+    return options.pictures ? draw(options) : show(options, store);
 }

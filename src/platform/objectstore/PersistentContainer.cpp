@@ -1,6 +1,7 @@
 #include "PersistentContainer.h"
 
 #include "platform/foundation/FatalError.h"
+#include "platform/objectstore/file/Soundness.h"
 #include "platform/objectstore/store/Store.h"
 #include "platform/objectstore/store/StoreInspection.h"
 
@@ -21,6 +22,10 @@ QString PersistentContainer::storePath() const {
 
 std::optional<QString> PersistentContainer::newestCopy() const {
     return StoreCopy::newest(storePath());
+}
+
+void PersistentContainer::readAhead() const {
+    kovamo::readAhead(storePath());
 }
 
 void PersistentContainer::loadPersistentStores(

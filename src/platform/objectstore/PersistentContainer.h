@@ -32,6 +32,9 @@ class PersistentContainer {
     /// The newest copy that was kept of the store, if there is one.
     [[nodiscard]] std::optional<QString> newestCopy() const;
 
+    /// Begins to read the store's file on a thread of its own, for loadPersistentStores().
+    void readAhead() const;
+
     /// Opens the store, making it where there is none, and calls `completion` with nothing, or
     /// with the error.
     void loadPersistentStores(const std::function<void(const StoreError*)>& completion);

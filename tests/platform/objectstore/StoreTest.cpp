@@ -1,5 +1,6 @@
 #include "Note.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <SQLiteCpp/Database.h>
@@ -78,6 +79,32 @@ TEST(Store, RefusesWhatIsNotItsOwnAndLeavesItAlone) {
     ASSERT_TRUE(QFile::rename(path, path + u"-wal"));
     EXPECT_EQ(failure(), u"The store has lost its content") << "its log may hold what was saved";
     EXPECT_TRUE(QFile::exists(path + u"-wal"));
+}
+
+TEST(Store, SeesWhatChangesWhileOrAfterItIsReadAhead) {
+    const World world;
+    const QString path = Notebook({{1}}).container.storePath();
+    const PersistentContainer container(QStringLiteral("Notes"), Note::entity());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    constexpr qint64 secondPage = 4096;
+    const auto write = [&](char byte) {
+        return file.seek(secondPage) && file.putChar(byte) && file.flush();
+    };
+    file.seek(secondPage);
+    const char kind = file.peek(1).at(0);
+    for (int round = 0; round < 60; ++round) {
+        // The clock of files stands still for some milliseconds.
+        ASSERT_TRUE(write(kind) && file.setFileTime(QDateTime::fromSecsSinceEpoch(0),
+                                                    QFile::FileModificationTime));
+        container.readAhead();
+        EXPECT_EQ(failure(), QString());
+        container.readAhead();
+        for (int i = 0; i < round; ++i)
+            static_cast<void>(content(path)); // meanwhile it is read, in the later rounds
+        ASSERT_TRUE(write('x'));
+        EXPECT_NE(failure(), QString()) << round;
+    }
 }
 
 TEST(Store, RefusesAWrongValueInTheTableOfAnotherProgram) {

@@ -2,8 +2,10 @@
 
 #include "WriteAheadLog.h"
 
+#include <QDateTime>
 #include <QFileInfo>
 #include <algorithm>
+#include <future>
 #include <memory>
 #include <sqlite3.h>
 #include <xxhash.h>
@@ -12,7 +14,7 @@ namespace kovamo {
 
 namespace {
 
-constexpr qsizetype chunk = 1 << 18;
+constexpr qsizetype chunk = 1 << 16;
 
 QString sealPath(const QString& path) {
     return path + u"-seal";
@@ -41,6 +43,42 @@ QByteArray digest(SQLite::Database& database) {
     return QByteArray::number(static_cast<qulonglong>(XXH3_64bits_digest(state.get())), 16);
 }
 
+/// What was read of a file before it was opened, and when the file had been written to last.
+struct ReadFile {
+    QString path;
+    QDateTime written;
+    QByteArray digest;
+};
+
+std::future<ReadFile>& fileAhead() {
+    static std::future<ReadFile> file;
+    return file;
+}
+
+QDateTime lastWritten(const QString& path) {
+    return QFileInfo(path).lastModified();
+}
+
+ReadFile readFile(const QString& path) {
+    ReadFile file{path, lastWritten(path), {}};
+    try {
+        SQLite::Database database(path.toStdString(), SQLite::OPEN_READONLY);
+        file.digest = digest(database);
+    } catch (const SQLite::Exception&) {
+        // The opening will meet the same error, and says it.
+    }
+    return file;
+}
+
+QByteArray currentDigest(SQLite::Database& database, const QString& path) {
+    if (fileAhead().valid()) {
+        const ReadFile file = fileAhead().get();
+        if (file.path == path && file.written == lastWritten(path))
+            return file.digest;
+    }
+    return digest(database);
+}
+
 } // namespace
 
 QString faultOf(SQLite::Database& database) {
@@ -48,9 +86,18 @@ QString faultOf(SQLite::Database& database) {
     return verdict == "ok" ? QString() : QString::fromStdString(verdict).replace(u'\n', u' ');
 }
 
+void readAhead(const QString& path) {
+    if (!QFile::exists(sealPath(path)))
+        return;
+    // It asks for environment variables, which the rest of the start may set meanwhile.
+    sqlite3_initialize();
+    fileAhead() = std::async([path] { return readFile(path); });
+}
+
 bool isSealed(SQLite::Database& database, const QString& path) {
     QFile file(sealPath(path));
-    return file.open(QIODevice::ReadOnly) && file.size() > 0 && file.readAll() == digest(database);
+    return file.open(QIODevice::ReadOnly) && file.size() > 0 &&
+           file.readAll() == currentDigest(database, path);
 }
 
 bool isEmptied(const QString& path) {
