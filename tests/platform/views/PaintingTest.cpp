@@ -46,6 +46,17 @@ TEST(Gradients, RunBetweenTheirPointsOfTheFilledRectangle) {
     expectColor(painted({}).pixelColor(80, 100), Qt::white, "no colour");
 }
 
+TEST(FillingACapsule, GoesOnAsItWasWhereItIsTooThinToShowItsEnds) {
+    for (const double width : {0.4, 1.0, 1.1}) {
+        const QRectF rect(10.25, 20, width, 40);
+        const QImage capsule = raster(FilledShape{Capsule{}, sunset}, size, rect);
+        const QImage box = raster(FilledShape{Rectangle{}, sunset}, size, rect);
+        for (const int y : {15, 21, 40, 58, 65})
+            for (const int x : {9, 10, 11, 12})
+                expectColor(capsule.pixelColor(x, y), box.pixelColor(x, y));
+    }
+}
+
 /// Two overlapping squares of one path, both wound the same way.
 struct Overlapping {
     [[nodiscard]] QPainterPath path(const QRectF&) const {
