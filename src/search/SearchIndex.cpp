@@ -11,6 +11,11 @@ namespace kovamo {
 
 namespace {
 
+// Within 40 bits of seconds, which go far beyond the years of four digits.
+constexpr std::int64_t seconds = (std::int64_t{1} << 40) - 1;
+constexpr Instant earliest{std::chrono::seconds(-seconds / 2)};
+constexpr Instant latest = earliest + std::chrono::seconds(seconds);
+
 template<typename T>
 T valueOr(const Value& value, T otherwise) {
     return isAbsent(value) ? otherwise : std::get<T>(value);
@@ -24,27 +29,33 @@ bool beginsWith(std::int32_t amount, std::string_view digits) {
 
 } // namespace
 
-/// A word with what is the same for all entries, found once.
+/// A word with what is the same for all entries of a kind, found once.
 struct SearchIndex::Search {
     const SearchWord& word;
-    std::vector<bool> hasEmoji;
-    std::optional<Recurs> recurs;
+    const std::vector<Kind>& kinds;
+    std::vector<bool> hasKind;
 
-    Search(const SearchWord& searched, const SearchIndex& index) : word(searched) {
-        for (const std::string& text : index.m_emoji)
-            hasEmoji.push_back(text.find(word.text) != std::string::npos);
+    Search(const SearchWord& searched, const SearchIndex& index)
+        : word(searched), kinds(index.m_kinds) {
+        std::optional<Recurs> recurs;
         if (word.recurringType == u"monthly")
             recurs = Recurs::monthly;
         else if (word.recurringType == u"yearly")
             recurs = Recurs::yearly;
+        for (const Kind& kind : kinds)
+            hasKind.push_back(index.m_emoji[kind.emoji].find(word.text) != std::string::npos ||
+                              word.isPositive == kind.isPositive || recurs == kind.recurs);
     }
 
     [[nodiscard]] bool fits(const Entry& entry, std::string_view title) const {
-        return title.find(word.text) != std::string_view::npos || hasEmoji[entry.emoji] ||
+        return title.find(word.text) != std::string_view::npos || hasKind[entry.kind] ||
                (!word.digits.empty() && beginsWith(entry.amount, word.digits)) ||
-               (word.isPositive && *word.isPositive == entry.isPositive) ||
-               (recurs && static_cast<std::uint32_t>(*recurs) == entry.recurs) ||
-               (word.year && entry.start < word.year->end && entry.end >= word.year->start);
+               (word.year && fallsIn(*word.year, entry));
+    }
+
+    [[nodiscard]] bool fallsIn(const Period& year, const Entry& entry) const {
+        const Instant start = earliest + std::chrono::seconds(entry.start);
+        return start < year.end && kinds[entry.kind].end.value_or(start) >= year.start;
     }
 };
 
@@ -64,13 +75,22 @@ std::uint32_t SearchIndex::emojiNumber(const QString& emoji) {
     return *m_emojiNumbers.insert(emoji, number);
 }
 
+std::uint32_t SearchIndex::kindNumber(const Kind& kind) {
+    const auto [known, isNew] =
+        m_kindNumbers.try_emplace(kind, static_cast<std::uint32_t>(m_kinds.size()));
+    if (isNew)
+        m_kinds.push_back(kind);
+    return known->second;
+}
+
 SearchIndex::Entry SearchIndex::entry(ObjectID id, std::span<const Value> values) {
     const auto attribute = [values]<typename T>(Transaction::Attribute name, T otherwise) {
         return valueOr(values[name], std::move(otherwise));
     };
     // Another program can store a title of any length, and to fold it takes several times as much.
     constexpr qsizetype longest = 100'000;
-    const std::string title = searchText(attribute(Transaction::Title, QString()).left(longest));
+    std::string title = searchText(attribute(Transaction::Title, QString()).left(longest));
+    std::ranges::replace(title, '\0', '\n'); // a zero ends a title in the index
     const QString type = attribute(Transaction::RecurringType, QString());
     const bool isRecurring = attribute(Transaction::IsRecurring, false);
     const Recurs recurs = !isRecurring         ? Recurs::never
@@ -79,17 +99,22 @@ SearchIndex::Entry SearchIndex::entry(ObjectID id, std::span<const Value> values
                                                : Recurs::otherwise;
     // Without a start there is no year.
     const Instant start = attribute(Transaction::StartDate, Instant::max());
+    const Value& end = values[Transaction::EndDate];
+    const std::uint32_t kind =
+        kindNumber({.emoji = emojiNumber(attribute(Transaction::Emoji, QString())),
+                    .isPositive = attribute(Transaction::IsPositive, false),
+                    .recurs = recurs,
+                    .end = isRecurring && !isAbsent(end) ? std::optional(std::get<Instant>(end))
+                                                         : std::nullopt});
+    const auto sinceEarliest =
+        std::chrono::floor<std::chrono::seconds>(std::clamp(start, earliest, latest) - earliest);
     const auto place = static_cast<std::uint32_t>(m_titles.size());
-    m_titles += title;
+    m_titles.append(title.c_str(), std::ssize(title) + 1);
     return {.id = id,
-            .start = start,
-            .end = isRecurring ? attribute(Transaction::EndDate, start) : start,
+            .start = static_cast<std::uint64_t>(sinceEarliest.count()) & seconds,
+            .kind = kind & 0xFFFFFF,
             .title = place,
-            .titleLength = static_cast<std::uint32_t>(title.size()),
-            .amount = attribute(Transaction::Amount, std::int32_t{0}),
-            .emoji = emojiNumber(attribute(Transaction::Emoji, QString())) & 0x1FFFFFFF,
-            .isPositive = attribute(Transaction::IsPositive, false),
-            .recurs = static_cast<std::uint32_t>(recurs) & 3};
+            .amount = attribute(Transaction::Amount, std::int32_t{0})};
 }
 
 void SearchIndex::add(ObjectID id, std::span<const Value> values) {
@@ -98,7 +123,6 @@ void SearchIndex::add(ObjectID id, std::span<const Value> values) {
 
 void SearchIndex::sort() {
     std::ranges::sort(m_entries, precedes);
-    m_titles.shrink_to_fit();
 }
 
 void SearchIndex::put(ObjectID id, std::span<const Value> values) {
@@ -116,15 +140,16 @@ SearchIndex::Found SearchIndex::find(const std::vector<SearchWord>& words) const
     for (const SearchWord& word : words)
         searches.emplace_back(word, *this);
     Found found;
+    found.ids.reserve(m_entries.size()); // to grow step by step takes twice the memory
     for (const Entry& entry : m_entries) {
-        const std::string_view title(m_titles.data() + entry.title, entry.titleLength);
+        const std::string_view title(m_titles.constData() + entry.title);
         if (!std::ranges::all_of(searches,
                                  [&](const Search& search) { return search.fits(entry, title); }))
             continue;
         found.ids.push_back(entry.id);
         const std::int64_t amount = entry.amount;
-        found.sum =
-            entry.isPositive ? checkedAdd(found.sum, amount) : checkedSubtract(found.sum, amount);
+        found.sum = m_kinds[entry.kind].isPositive ? checkedAdd(found.sum, amount)
+                                                   : checkedSubtract(found.sum, amount);
     }
     return found;
 }

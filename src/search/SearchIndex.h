@@ -3,13 +3,15 @@
 #include "SearchWord.h"
 #include "platform/objectstore/EntityDescription.h"
 
+#include <QByteArray>
 #include <QHash>
 #include <functional>
+#include <map>
 #include <span>
 
 namespace kovamo {
 
-/// What transactions are found by, in some 60 bytes each: their texts folded, one after another.
+/// What transactions are found by, in 24 bytes each and their titles, folded, one after another.
 class SearchIndex {
   public:
     /// What was found, largest amount first as the list of all has it, and earnings minus
@@ -43,28 +45,40 @@ class SearchIndex {
   private:
     enum class Recurs : std::uint8_t { never, monthly, yearly, otherwise };
 
+    /// What many transactions have in common.
+    struct Kind {
+        std::uint32_t emoji;
+        bool isPositive;
+        Recurs recurs;
+        /// The last moment of what recurs; nothing where that is its start.
+        std::optional<Instant> end;
+
+        friend auto operator<=>(const Kind&, const Kind&) = default;
+    };
+
     struct Entry {
         ObjectID id;
-        Instant start;
-        Instant end;
+        /// In seconds from the earliest one on: years begin with whole seconds.
+        std::uint64_t start : 40;
+        std::uint64_t kind : 24;
         std::uint32_t title;
-        std::uint32_t titleLength;
         std::int32_t amount;
-        std::uint32_t emoji : 29;
-        std::uint32_t isPositive : 1;
-        std::uint32_t recurs : 2;
     };
 
     struct Search;
 
     [[nodiscard]] Entry entry(ObjectID id, std::span<const Value> values);
     [[nodiscard]] std::uint32_t emojiNumber(const QString& emoji);
+    [[nodiscard]] std::uint32_t kindNumber(const Kind& kind);
     [[nodiscard]] static bool precedes(const Entry& a, const Entry& b);
 
     std::function<QString(const QString&)> m_emojiName;
     std::vector<Entry> m_entries;
-    /// The titles; what was removed stays until the index goes.
-    std::string m_titles;
+    /// The titles, each with a zero after it; what was removed stays until the index goes. (A
+    /// QByteArray grows without a copy.)
+    QByteArray m_titles;
+    std::vector<Kind> m_kinds;
+    std::map<Kind, std::uint32_t> m_kindNumbers;
     /// What each emoji is found by: its name and itself.
     std::vector<std::string> m_emoji;
     QHash<QString, std::uint32_t> m_emojiNumbers;
