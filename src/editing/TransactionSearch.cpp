@@ -22,47 +22,46 @@ TransactionSearch::TransactionSearch(ManagedObjectContext& context, const LiveFe
 
 void TransactionSearch::passOn() {
     using Model = QAbstractItemModel;
-    const auto ifClosed = [this](auto pass) {
+    const auto ifAll = [this](auto pass) {
         return [this, pass](const QModelIndex&, int first, int last) {
-            if (!m_isOpen)
+            if (!m_found)
                 pass(first, last);
         };
     };
     connect(&m_all, &Model::rowsAboutToBeInserted, this,
-            ifClosed([this](int first, int last) { beginInsertRows({}, first, last); }));
-    connect(&m_all, &Model::rowsInserted, this, ifClosed([this](int, int) { endInsertRows(); }));
+            ifAll([this](int first, int last) { beginInsertRows({}, first, last); }));
+    connect(&m_all, &Model::rowsInserted, this, ifAll([this](int, int) { endInsertRows(); }));
     connect(&m_all, &Model::rowsAboutToBeRemoved, this,
-            ifClosed([this](int first, int last) { beginRemoveRows({}, first, last); }));
-    connect(&m_all, &Model::rowsRemoved, this, ifClosed([this](int, int) { endRemoveRows(); }));
+            ifAll([this](int first, int last) { beginRemoveRows({}, first, last); }));
+    connect(&m_all, &Model::rowsRemoved, this, ifAll([this](int, int) { endRemoveRows(); }));
     connect(&m_all, &Model::rowsAboutToBeMoved, this,
             [this](const QModelIndex&, int first, int last, const QModelIndex&, int to) {
-                if (!m_isOpen)
+                if (!m_found)
                     beginMoveRows({}, first, last, {}, to);
             });
-    connect(&m_all, &Model::rowsMoved, this, ifClosed([this](int, int) { endMoveRows(); }));
+    connect(&m_all, &Model::rowsMoved, this, ifAll([this](int, int) { endMoveRows(); }));
     connect(&m_all, &Model::dataChanged, this,
             [this](const QModelIndex& from, const QModelIndex& to) {
-                if (!m_isOpen)
+                if (!m_found)
                     Q_EMIT dataChanged(index(from.row()), index(to.row()));
             });
     connect(&m_all, &Model::modelAboutToBeReset, this, [this] {
-        if (!m_isOpen)
+        if (!m_found)
             beginResetModel();
     });
     connect(&m_all, &Model::modelReset, this, [this] {
-        if (!m_isOpen)
+        if (!m_found)
             endResetModel();
     });
 }
 
 const std::vector<ObjectID>& TransactionSearch::shown() const {
-    return m_isOpen ? m_found : m_all.objectIDs();
+    return m_found ? *m_found : m_all.objectIDs();
 }
 
 void TransactionSearch::open() {
     if (std::exchange(m_isOpen, true))
         return;
-    m_found = m_all.objectIDs();
     beginIndex();
     Q_EMIT isOpenChanged();
 }
@@ -72,7 +71,6 @@ void TransactionSearch::close() {
         return;
     setQuery({});
     m_isOpen = false;
-    m_found = {};
     m_index.reset();
     ++m_indexNumber;
     Q_EMIT isOpenChanged();
@@ -148,7 +146,7 @@ void TransactionSearch::indexRecords(std::size_t most) {
 void TransactionSearch::find() {
     const auto words = searchWords(m_query);
     if (words.empty()) {
-        show(m_all.objectIDs());
+        show(std::nullopt);
         return setSummary({});
     }
     if (!m_isIndexed)
@@ -159,19 +157,22 @@ void TransactionSearch::find() {
     show(std::move(found.ids));
 }
 
-void TransactionSearch::show(std::vector<ObjectID> found) {
-    const auto [first, removed, inserted] = listDifference(m_found, found);
-    const auto at = m_found.begin() + first;
+void TransactionSearch::show(std::optional<std::vector<ObjectID>> found) {
+    const auto [first, removed, inserted] =
+        listDifference(shown(), found ? *found : m_all.objectIDs());
     if (removed > 0) {
         beginRemoveRows({}, first, first + removed - 1);
-        m_found.erase(at, at + removed);
+        const auto at = shown().begin() + first;
+        std::vector<ObjectID> left(shown().begin(), at);
+        left.insert(left.end(), at + removed, shown().end());
+        m_found = std::move(left);
         endRemoveRows();
     }
-    if (inserted > 0) {
+    if (inserted > 0)
         beginInsertRows({}, first, first + inserted - 1);
-        m_found = std::move(found);
+    m_found = std::move(found);
+    if (inserted > 0)
         endInsertRows();
-    }
     if (rowCount() > 0)
         Q_EMIT dataChanged(index(0), index(rowCount() - 1));
 }

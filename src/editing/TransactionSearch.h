@@ -67,7 +67,7 @@ class TransactionSearch : public QAbstractListModel {
     void continueLater();
     void indexRecords(std::size_t most);
     void find();
-    void show(std::vector<ObjectID> found);
+    void show(std::optional<std::vector<ObjectID>> found);
     void setSummary(const QString& summary);
 
     ManagedObjectContext& m_context;
@@ -75,8 +75,9 @@ class TransactionSearch : public QAbstractListModel {
     bool m_isOpen = false;
     QString m_query;
     QString m_summary;
+    /// What the query found; nothing while all rows are shown.
+    std::optional<std::vector<ObjectID>> m_found;
     /// While it is open.
-    std::vector<ObjectID> m_found;
     std::optional<SearchIndex> m_index;
     bool m_isIndexed = false;
     ObjectID m_lastIndexed = 0;
