@@ -24,7 +24,7 @@ ExitStatus run(const Call& call) {
     const bool isJson = call.choice("format", formats) == u"json";
     const TimeFrame frame = call.frame().value_or(1);
     OpenStore opened(call.storePath(), Store::Access::read);
-    QList<TransactionPresentation> transactions;
+    QList<SharedPresentation> transactions;
     gatherTransactions(frame, opened.context, transactions);
     const std::int64_t balance = netBalance(transactions);
     if (isJson) {

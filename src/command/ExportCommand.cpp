@@ -47,7 +47,7 @@ bool writeRecords(OpenStore& opened, ExchangeFormat format, std::optional<TimeFr
 bool writeJournal(OpenStore& opened, std::optional<TimeFrame> frame, QIODevice& device) {
     if (!frame)
         return exportJournal(opened.store, device, Clock::now()).has_value();
-    QList<TransactionPresentation> transactions;
+    QList<SharedPresentation> transactions;
     gatherTransactions(*frame, opened.context, transactions);
     JournalWriter journal(device);
     for (const TransactionPresentation& transaction : transactions)

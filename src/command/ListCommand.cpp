@@ -38,7 +38,7 @@ QString wordsOf(const TransactionPresentation& row) {
                                    : words;
 }
 
-void printTable(const QList<TransactionPresentation>& rows) {
+void printTable(const QList<SharedPresentation>& rows) {
     ZoneOffset zone;
     std::vector<Line> lines;
     qsizetype dayWidth = 0, amountWidth = 0;
@@ -53,7 +53,7 @@ void printTable(const QList<TransactionPresentation>& rows) {
               u"  " + line.words + u'\n');
 }
 
-void printRecords(const QList<TransactionPresentation>& rows, ExchangeFormat format) {
+void printRecords(const QList<SharedPresentation>& rows, ExchangeFormat format) {
     OutputFile output({});
     RecordWriter writer(output.device(), format);
     for (const TransactionPresentation& row : rows)

@@ -31,7 +31,7 @@ class Banner {
     Banner(ManagedObjectContext& viewContext, TimeFrame selectedTimeFrame);
 
     ManagedObjectContext* viewContext = nullptr;
-    QList<TransactionPresentation> transactions;
+    QList<SharedPresentation> transactions;
     LinearGradient greenGardient{{{SystemColor::yellow}, {SystemColor::green}}};
     LinearGradient redGradient{{{SystemColor::yellow}, {SystemColor::red}}};
     LinearGradient blueGradient{{{SystemColor::gray}, {SystemColor::blue}}};

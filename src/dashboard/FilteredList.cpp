@@ -22,7 +22,7 @@ void FilteredList::showLater() {
 
 void FilteredList::show() {
     m_willShow = false;
-    const QList<TransactionPresentation>& after = m_transactionContainer->transactions();
+    const QList<SharedPresentation>& after = m_transactionContainer->transactions();
     const auto [first, removed, inserted] = listDifference(m_rows, after);
     if (removed > 0) {
         beginRemoveRows({}, first, first + removed - 1);

@@ -37,7 +37,7 @@ class FilteredList : public QAbstractListModel {
 
     std::unique_ptr<TransactionContainer> m_transactionContainer;
     // What the views know of; the container may be ahead.
-    QList<TransactionPresentation> m_rows;
+    QList<SharedPresentation> m_rows;
     bool m_willShow = false;
 };
 

@@ -25,8 +25,8 @@ constexpr double padding = 20;
 constexpr double cornerRadius = 10;
 
 /// The largest amount. Requires a transaction.
-std::int32_t largestAmount(const QList<TransactionPresentation>& transactions) {
-    return std::ranges::max_element(transactions, {}, &TransactionPresentation::amount)->amount;
+std::int32_t largestAmount(const QList<SharedPresentation>& transactions) {
+    return (*std::ranges::max_element(transactions, {}, &TransactionPresentation::amount))->amount;
 }
 
 /// "1 earning", "2 earnings".
@@ -54,7 +54,7 @@ TransactionChart::TransactionChart(ManagedObjectContext& context, TimeFrame time
         stackDateFormat.dateFormat = QStringLiteral("MM/dd/yy");
     gatherTransactions(timeFrame, context, transactions);
     radixSortInPlace(transactions, [](const auto& transaction) {
-        const Instant start = required(transaction.id, transaction.startDate, "startDate");
+        const Instant start = required(transaction->id, transaction->startDate, "startDate");
         return sortKey(start.time_since_epoch().count());
     });
     scaleAmounts();

@@ -32,7 +32,7 @@ class TransactionChart {
 
     ManagedObjectContext* viewContext = nullptr;
     /// The period's transactions by start date.
-    QList<TransactionPresentation> transactions;
+    QList<SharedPresentation> transactions;
     /// For each column the amount as a fraction of the largest where it is an earning, else 0; at
     /// least 15 columns, the empty ones last.
     QList<double> positiveChartData;

@@ -5,7 +5,7 @@
 
 namespace kovamo {
 
-std::int64_t netBalance(const QList<TransactionPresentation>& transactions) {
+std::int64_t netBalance(const QList<SharedPresentation>& transactions) {
     std::int64_t sum = 0;
     for (const TransactionPresentation& transaction : transactions) {
         const std::int64_t amount = transaction.amount;

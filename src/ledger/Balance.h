@@ -7,7 +7,7 @@
 namespace kovamo {
 
 /// Earnings minus spendings. A sum beyond 64 bits is a fatal error.
-[[nodiscard]] std::int64_t netBalance(const QList<TransactionPresentation>& transactions);
+[[nodiscard]] std::int64_t netBalance(const QList<SharedPresentation>& transactions);
 
 /// The size of a net balance. That of the smallest 64-bit number is a fatal error.
 [[nodiscard]] std::int64_t magnitude(std::int64_t balance);

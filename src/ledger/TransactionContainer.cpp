@@ -24,8 +24,7 @@ std::vector<Transaction*> fetched(ManagedObjectContext& context, Predicate predi
 } // namespace
 
 void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
-                        QList<TransactionPresentation>& list,
-                        const std::function<void()>& willAppend) {
+                        QList<SharedPresentation>& list, const std::function<void()>& willAppend) {
     const auto [start, end] = periodBounds(timeFrame);
     const auto oneOff = fetched(
         context,
@@ -35,16 +34,15 @@ void gatherTransactions(TimeFrame timeFrame, ManagedObjectContext& context,
     list.reserve(list.size() + std::ssize(oneOff) + std::ssize(recurring));
     for (const Transaction* transaction : oneOff) {
         willAppend();
-        list.emplace_back(*transaction);
+        list.append(transaction->presentation());
     }
 
     const std::vector<MonthSlot> slots = monthSlots(timeFrame);
     const Calendar calendar;
     for (const Transaction* transaction : recurring)
-        if (const auto presentation =
-                expanded(TransactionPresentation(*transaction), slots, calendar)) {
+        if (auto presentation = expanded(transaction->presentation(), slots, calendar)) {
             willAppend();
-            list.append(*presentation);
+            list.append(std::make_shared<const TransactionPresentation>(*std::move(presentation)));
         }
 }
 
@@ -55,7 +53,7 @@ void TransactionContainer::fetchTransactions(TimeFrame timeFrame, ManagedObjectC
     gatherTransactions(timeFrame, context, m_transactions, [this] { Q_EMIT objectWillChange(); });
     Q_EMIT objectWillChange();
     radixSortInPlace(m_transactions,
-                     [](const auto& transaction) { return ~sortKey(transaction.amount); });
+                     [](const auto& transaction) { return ~sortKey(transaction->amount); });
 }
 
 } // namespace kovamo

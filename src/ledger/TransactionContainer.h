@@ -15,7 +15,7 @@ namespace kovamo {
 /// period, then what the recurring ones contribute to its months, each in the store's order. A
 /// fetch that fails contributes nothing. `willAppend` is called before each.
 void gatherTransactions(
-    TimeFrame timeFrame, ManagedObjectContext& context, QList<TransactionPresentation>& list,
+    TimeFrame timeFrame, ManagedObjectContext& context, QList<SharedPresentation>& list,
     const std::function<void()>& willAppend = [] {});
 
 /// The transactions of a period as a list that can be observed.
@@ -24,9 +24,7 @@ class TransactionContainer : public QObject {
 
   public:
     /// The period's transactions, largest amount first, equal amounts as they were gathered.
-    [[nodiscard]] const QList<TransactionPresentation>& transactions() const {
-        return m_transactions;
-    }
+    [[nodiscard]] const QList<SharedPresentation>& transactions() const { return m_transactions; }
 
     /// The months of the period that was loaded.
     [[nodiscard]] const std::vector<MonthSlot>& months() const { return m_slots; }
@@ -39,7 +37,7 @@ class TransactionContainer : public QObject {
     void objectWillChange();
 
   private:
-    QList<TransactionPresentation> m_transactions;
+    QList<SharedPresentation> m_transactions;
     std::vector<MonthSlot> m_slots;
 };
 

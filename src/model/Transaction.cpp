@@ -2,6 +2,13 @@
 
 namespace kovamo {
 
+SharedPresentation Transaction::presentation() const {
+    const std::span<const Value> current = values();
+    if (!m_presentation)
+        m_presentation = std::make_shared<const TransactionPresentation>(current);
+    return m_presentation;
+}
+
 const EntityDescription& Transaction::entity() {
     using enum AttributeType;
     static const EntityDescription entity{

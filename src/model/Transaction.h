@@ -1,5 +1,6 @@
 #pragma once
 
+#include "TransactionPresentation.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/objectstore/FetchRequest.h"
 #include "platform/objectstore/ManagedObject.h"
@@ -73,6 +74,14 @@ class Transaction : public ManagedObject {
     /// The user's short description.
     [[nodiscard]] std::optional<QString> title() const { return optional<QString>(Title); }
     void setTitle(const std::optional<QString>& title) { setOptional(Title, title); }
+
+    /// A copy of what it holds; the same one until that changes.
+    [[nodiscard]] SharedPresentation presentation() const;
+
+  private:
+    void valuesChanged() const override { m_presentation.reset(); }
+
+    mutable std::shared_ptr<const TransactionPresentation> m_presentation;
 };
 
 /// `value`, which the attribute `attribute` of the record `id` holds; an absent one is a fatal

@@ -3,8 +3,10 @@
 #include "platform/objectstore/Value.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 namespace kovamo {
@@ -38,12 +40,31 @@ struct TransactionPresentation {
     }
 };
 
+/// A transaction's copy that lists share: a screen has four lists of the same ones, which may be
+/// thousands.
+class SharedPresentation {
+  public:
+    SharedPresentation(std::shared_ptr<const TransactionPresentation> copy)
+        : m_copy(std::move(copy)) {}
+
+    const TransactionPresentation& operator*() const { return *m_copy; }
+    const TransactionPresentation* operator->() const { return m_copy.get(); }
+    operator const TransactionPresentation&() const { return *m_copy; }
+
+    friend bool operator==(const SharedPresentation& a, const SharedPresentation& b) {
+        return *a == *b;
+    }
+
+  private:
+    std::shared_ptr<const TransactionPresentation> m_copy;
+};
+
 /// The values of a record with the fields of `transaction`, in the entity's order.
 [[nodiscard]] std::vector<Value> valuesOf(const TransactionPresentation& transaction);
 
 } // namespace kovamo
 
-Q_DECLARE_TYPEINFO(kovamo::TransactionPresentation, Q_RELOCATABLE_TYPE);
+Q_DECLARE_TYPEINFO(kovamo::SharedPresentation, Q_RELOCATABLE_TYPE);
 
 template<>
 struct std::hash<kovamo::TransactionPresentation> {

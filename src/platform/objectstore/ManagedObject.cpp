@@ -24,6 +24,7 @@ void ManagedObject::setValue(std::size_t index, Value value) {
     if (compare(values()[index], value) == 0)
         return;
     m_values[index] = std::move(value);
+    valuesChanged();
     m_context.didUpdate(*this);
 }
 

@@ -57,6 +57,9 @@ class ManagedObject {
   private:
     friend class ManagedObjectContext;
 
+    /// Called when values have changed or were read again.
+    virtual void valuesChanged() const {}
+
     void require() const;
     // What is pending here goes before what another process wrote.
     void makeStale() { m_isStale = !m_isInserted && !m_isUpdated && !m_isDeleted; }

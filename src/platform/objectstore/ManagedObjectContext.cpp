@@ -132,8 +132,10 @@ ManagedObject& ManagedObjectContext::object(ObjectID id) {
 bool ManagedObjectContext::read(const ManagedObject& object) {
     std::vector<Value> values = m_store.read(object.objectID());
     object.m_isStale = false;
-    if (!values.empty())
+    if (!values.empty()) {
         object.m_values = std::move(values);
+        object.valuesChanged();
+    }
     return !object.m_values.empty();
 }
 
