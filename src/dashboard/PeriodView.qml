@@ -40,11 +40,6 @@ Item {
     RowList {
         id: list
 
-        function showTop() {
-            positionViewAtBeginning();
-            contentY -= topMargin;
-        }
-
         Accessible.name: qsTr("Transactions of the time frame")
         anchors.bottom: parent.bottom
         anchors.top: period.isShort ? parent.top : divider.bottom

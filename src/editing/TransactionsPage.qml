@@ -13,6 +13,11 @@ FocusScope {
     required property TransactionsState transactions
     /*! Whether neither a form nor a sheet lies over the list. */
     required property bool isOnTop
+    /*! The height of the page and the navigation bar. */
+    required property real room
+    /*! Whether the navigation bar and the open search leave no room for a few rows: then the bar
+        goes, and the search scrolls away with the rows. */
+    readonly property bool hidesNavigationBar: search.isOpen && room < searchBar.implicitHeight + 3 * Metrics.rowHeight
     readonly property TransactionSearch search: transactions.search
     readonly property string navigationTitle: transactions.navigationTitle
     /*! The list's first row in sight and its current one, as they were when the search began. */
@@ -49,7 +54,10 @@ FocusScope {
         if (row < 0)
             return;
         list.currentIndex = row;
-        list.positionViewAtIndex(row, ListView.Contain);
+        if (row === 0)
+            list.showTop();
+        else
+            list.positionViewAtIndex(row, ListView.Contain);
     }
 
     Keys.onBackPressed: event => {
@@ -102,6 +110,7 @@ FocusScope {
         search: page.search
         visible: opacity > 0
         width: parent.width
+        y: page.hidesNavigationBar ? list.originY - list.topMargin - list.contentY : 0
 
         onWentOn: list.forceActiveFocus(Qt.TabFocusReason)
     }
@@ -113,8 +122,9 @@ FocusScope {
         // The last rows are not to lie behind the bar.
         height: parent.height - y - (deletionBar.enabled ? deletionBar.height + 2 * deletionBar.anchors.bottomMargin : 0)
         model: page.search
+        topMargin: page.hidesNavigationBar ? searchBar.height : 0
         width: parent.width
-        y: page.search.isOpen ? searchBar.height : 0
+        y: page.search.isOpen && !page.hidesNavigationBar ? searchBar.height : 0
 
         delegate: SwipeRow {
             id: row
@@ -160,6 +170,8 @@ FocusScope {
 
         onDragEnded: if (searchBar.pulled > searchBar.height / 2)
             page.find()
+        onTopMarginChanged: if (page.hidesNavigationBar)
+            showTop()
     }
     DeletionBar {
         id: deletionBar

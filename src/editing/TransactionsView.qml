@@ -27,6 +27,7 @@ NavigationStack {
     initialPage: TransactionsPage {
         transactions: screen.transactions
         isOnTop: screen.depth === 1 && screen.activeFocus
+        room: screen.height
 
         onOpened: row => screen.open(row)
     }

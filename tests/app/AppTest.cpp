@@ -127,6 +127,18 @@ TEST_F(App, LetsTheBalanceScrollAwayOnAShortScreen) {
     }
 }
 
+TEST_F(App, ShowsWhatTheSearchFindsOnAShortScreen) {
+    Book book({{1}, {2}, {3}, {4}});
+    Visit visit(book);
+    visit.resize({720, 180});
+    visit.press(Qt::Key_L, Qt::ControlModifier);
+    visit.press(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_TRUE(visit.isInSight("+ $4", true));
+    EXPECT_TRUE(visit.isInSight("Search transactions", true));
+    visit.press(Qt::Key_Escape);
+    EXPECT_TRUE(visit.isInSight("Transactions", true)) << "the title is back";
+}
+
 TEST_F(App, LeavesNoRowBehindWhatTakesADeletionBack) {
     Book book({{1}, {2}, {3}, {4}, {5}, {6}, {7}, {8}, {9}, {10}, {11}, {12}});
     Visit visit(book);

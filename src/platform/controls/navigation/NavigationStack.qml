@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 
 /*! Pages on top of each other under one navigation bar. A page is any item; its property
-    `navigationTitle` is the bar's title while it is on top. Lower pages stay as they are. */
+    `navigationTitle` is the bar's title while it is on top; one whose `hidesNavigationBar` is true
+    has the bar's room, too. Lower pages stay as they are. */
 FocusScope {
     id: stack
 
@@ -52,6 +53,10 @@ FocusScope {
         return page ? page["navigationTitle"] ?? "" : "";
     }
 
+    function hidesBar(page: var): bool {
+        return page ? page["hidesNavigationBar"] ?? false : false;
+    }
+
     Keys.onBackPressed: event => event.accepted = stack.pop()
     Keys.onEscapePressed: event => event.accepted = stack.pop()
 
@@ -60,6 +65,7 @@ FocusScope {
 
         canGoBack: stack.canGoBack
         title: stack.titleOf(view.currentItem)
+        visible: !stack.hidesBar(view.currentItem)
         width: parent.width
 
         onBack: stack.goBack()
@@ -68,7 +74,7 @@ FocusScope {
         id: view
 
         anchors.fill: parent
-        anchors.topMargin: bar.height
+        anchors.topMargin: bar.visible ? bar.height : 0
         clip: true
         focus: true
         initialItem: stack.initialPage

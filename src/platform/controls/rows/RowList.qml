@@ -23,6 +23,12 @@ ListView {
         }
     }
 
+    /*! Shows the first row below the whole of the top margin. */
+    function showTop() {
+        list.positionViewAtBeginning();
+        list.contentY -= list.topMargin;
+    }
+
     function showMarked() {
         if ((list.currentItem as Focusable)?.visualFocus)
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
