@@ -12,16 +12,35 @@ Item {
     /*! Whether a picture as high as it is wide would lose too much above and below. */
     readonly property bool wide: width > 1.4 * height
 
+    /*! How much higher the button stands than the pictures leave room for. */
+    required property real lift
+    readonly property real lifted: wide ? lift : 0
+    readonly property url picture: ImageAssets.url(imageName, SystemColors.dark, wide)
+
     clip: true
 
-    Image {
+    Picture {
         Accessible.name: page.description
         Accessible.role: Accessible.Graphic
-        anchors.fill: parent
+        height: page.height
+        source: page.picture
+        width: page.width
+        y: -page.lifted
+    }
+    // Below a lifted picture its colours go on.
+    Picture {
+        height: page.height
+        mirrorVertically: true
+        source: page.picture
+        visible: page.lifted > 0
+        width: page.width
+        y: page.height - page.lifted
+    }
+
+    component Picture: Image {
         fillMode: Image.PreserveAspectCrop
-        source: ImageAssets.url(page.imageName, SystemColors.dark, page.wide)
         // Drawn at the size it is shown in, so that it is crisp.
-        sourceSize.height: page.height
-        sourceSize.width: page.width
+        sourceSize.height: height
+        sourceSize.width: width
     }
 }

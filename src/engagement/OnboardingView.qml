@@ -36,6 +36,8 @@ FocusScope {
             description: view.onboarding.pageDescription(index)
             height: pages.height
             imageName: view.onboarding.pageImageName(index)
+            // The pictures are drawn for the button of a text that is not enlarged.
+            lift: Math.max(0, button.height - 56)
             width: pages.width
         }
 
