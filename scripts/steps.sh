@@ -158,8 +158,11 @@ pack() {
         # Debian 12's validator does not know SingleMainWindow.
         sed '/^SingleMainWindow=/d' "$root/packaging/$id.desktop" >"$id.desktop"
         desktop-file-validate "$id.desktop"
+        # With pictures, too, which are listed for an address only.
+        cmake -D KOVAMO_SCREENSHOTS=https://example.org/kovamo -D METAINFO="$PWD/$id.metainfo.xml" \
+            -P "$root/packaging/metainfo.cmake"
         # There is no home page, which Debian 13's validator warns of.
-        if appstreamcli validate --no-net "$root/packaging/$id.metainfo.xml" |
+        if appstreamcli validate --no-net "packaging/$id.metainfo.xml" "$id.metainfo.xml" |
             grep '^[EW]:' | grep -v url-homepage-missing; then
             exit 1
         fi
