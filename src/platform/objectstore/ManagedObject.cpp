@@ -20,6 +20,14 @@ void ManagedObject::require() const {
         fatalError(QStringLiteral("There is no record %1").arg(m_objectID));
 }
 
+void ManagedObject::take(std::vector<Value> values) const {
+    m_isStale = false;
+    if (values.empty())
+        return;
+    m_values = std::move(values);
+    valuesChanged();
+}
+
 void ManagedObject::setValue(std::size_t index, Value value) {
     if (compare(values()[index], value) == 0)
         return;

@@ -57,6 +57,8 @@ class ManagedObject {
   private:
     friend class ManagedObjectContext;
 
+    /// Keeps what was read of the record: its values, or none where there is no record any more.
+    void take(std::vector<Value> values) const;
     /// Called when values have changed or were read again.
     virtual void valuesChanged() const {}
 

@@ -69,12 +69,16 @@ std::vector<ManagedObject*> ManagedObjectContext::fetchObjects(const FetchReques
     const std::vector<ObjectID> ids = selectIDs(request);
     std::vector<ManagedObject*> objects;
     objects.reserve(ids.size());
+    std::vector<ObjectID> unread;
     for (const ObjectID id : ids) {
         ManagedObject& found = object(id);
         if (found.m_values.empty() || found.m_isStale)
-            read(found);
+            unread.push_back(id);
         objects.push_back(&found);
     }
+    m_store.read(unread, [this](ObjectID id, std::vector<Value> values) {
+        object(id).take(std::move(values));
+    });
     // Without merging, nothing tells when another process has made it out of date.
     if (m_mergesChanges)
         m_memory.keep(request, objects);
@@ -130,12 +134,7 @@ ManagedObject& ManagedObjectContext::object(ObjectID id) {
 }
 
 bool ManagedObjectContext::read(const ManagedObject& object) {
-    std::vector<Value> values = m_store.read(object.objectID());
-    object.m_isStale = false;
-    if (!values.empty()) {
-        object.m_values = std::move(values);
-        object.valuesChanged();
-    }
+    object.take(m_store.read(object.objectID()));
     return !object.m_values.empty();
 }
 

@@ -79,6 +79,8 @@ EntityTable::EntityTable(const EntityDescription& entity) : name(quoted(entity.n
     wrongValue += u" END AS wrong FROM " + name + u" WHERE wrong IS NOT NULL LIMIT 1";
     everything =
         u"SELECT " + columns.join(u',') + u",pk FROM " + name + u" WHERE pk > ? ORDER BY pk";
+    several = u"SELECT " + columns.join(u',') + u",pk FROM " + name +
+              u" WHERE pk IN (SELECT value FROM json_each(?))";
     insertion = u"INSERT INTO " + name + u" (" + columns.join(u',') + u",pk) VALUES (" +
                 QStringLiteral("?,").repeated(columns.size()) + u"?)";
     update =

@@ -21,6 +21,8 @@ struct EntityTable {
     QString selection;
     /// The columns and the identity of every record above an identity, in their order.
     QString everything;
+    /// The columns and the identity of the records whose identities a JSON array holds.
+    QString several;
     /// The first record with a value that its attribute cannot have, and the attribute's name.
     QString wrongValue;
     /// Takes the columns' values, then the identity.

@@ -40,6 +40,10 @@ class Store {
     /// The values of a record; empty when there is none.
     [[nodiscard]] std::vector<Value> read(ObjectID id);
 
+    /// Calls `take` with the values of each of these records, in some order.
+    void read(std::span<const ObjectID> ids,
+              const std::function<void(ObjectID, std::vector<Value>)>& take);
+
     /// What is told of each record: its identity and its values. False ends the visit.
     using Visitor = std::function<bool(ObjectID, std::span<const Value>)>;
 
