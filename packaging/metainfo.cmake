@@ -6,8 +6,8 @@ function(write_metainfo)
     set(type " type=\"default\"")
     set(captions
         current-month "The balance of the month and what it is made of"
-        twelve-months "The same of a year"
-        new-transaction "The form for a transaction"
+        twelve-months "The balance of twelve months"
+        new-transaction "The form for a new transaction"
         transactions "All transactions, to search and to change")
     while(captions)
         list(POP_FRONT captions picture caption)
