@@ -15,6 +15,7 @@ namespace kovamo {
 namespace {
 
 constexpr QSize upright(360, 720), turned(720, 360);
+constexpr QPoint key1(110, 545);
 constexpr QRgb white = 0xFFFFFFFF, accent = 0xFF007AFF, black = 0xFF000000, ground = 0xFFF2F2F7;
 
 /// The app in a phone's shell: a compositor without a display, an on-screen keyboard, a finger.
@@ -49,12 +50,22 @@ class Phone : public testing::Test {
         start(compositor, "phoc", {"-C", scratch.filePath("phoc.ini")});
         const QString socket = sockets + u"/wayland-0";
         ASSERT_TRUE(soon([&] { return QFile::exists(socket); })) << "phoc does not start";
-        run("wlr-randr", {"--output", "HEADLESS-1", "--custom-mode", "360x720"});
+        // The compositor refuses or drops the size while it is still setting up its screen.
+        ASSERT_TRUE(soon([&] {
+            run("wlr-randr", {"--output", "HEADLESS-1", "--custom-mode", "360x720"});
+            return screen().size() == upright;
+        }));
         // The keyboard needs a seat, and the compositor makes one for the first pointer.
         finger = std::make_unique<Finger>(qPrintable(socket));
         ASSERT_TRUE(finger->isThere());
         start(keyboard, "squeekboard", {});
         ASSERT_TRUE(soon([&] { return !keyboardShown().isEmpty(); })) << "no keyboard";
+        // It may begin with room for keys that it does not show, until it has hidden some.
+        const auto showsKey = [&] { return screen().pixel(key1) != black; };
+        setKeyboardShown(true);
+        ASSERT_TRUE(soon(showsKey));
+        setKeyboardShown(false);
+        ASSERT_TRUE(soon([&] { return !showsKey(); }));
         start(app, KOVAMO_EXECUTABLE, {"--demo"});
     }
     ~Phone() override {
@@ -86,14 +97,18 @@ class Phone : public testing::Test {
     }
     void turn(const char* how) { run("wlr-randr", {"--output", "HEADLESS-1", "--transform", how}); }
 
+    QDBusMessage askKeyboard(const char* interface, const char* method,
+                             const QVariantList& arguments) const {
+        QDBusMessage call =
+            QDBusMessage::createMethodCall("sm.puri.OSK0", "/sm/puri/OSK0", interface, method);
+        call.setArguments(arguments);
+        return QDBusConnection::connectToBus(bus->address, "phone").call(call);
+    }
+    void setKeyboardShown(bool shown) const { askKeyboard("sm.puri.OSK0", "SetVisible", {shown}); }
     /// "true", "false" or, where there is no keyboard yet, nothing.
     QString keyboardShown() const {
-        QDBusMessage call = QDBusMessage::createMethodCall(
-            "sm.puri.OSK0", "/sm/puri/OSK0", "org.freedesktop.DBus.Properties", "Get");
-        call << "sm.puri.OSK0"
-             << "Visible";
         const QDBusReply<QVariant> reply =
-            QDBusConnection::connectToBus(bus->address, "phone").call(call);
+            askKeyboard("org.freedesktop.DBus.Properties", "Get", {"sm.puri.OSK0", "Visible"});
         return reply.isValid() ? reply.value().toString() : QString();
     }
 
