@@ -42,9 +42,10 @@ library_packages=(
     libxxhash-dev
     qt6-base-dev
     qt6-declarative-dev
+    qt6-wayland-dev
 )
 
-build_packages=("${library_packages[@]}" cmake g++ ninja-build unicode-data)
+build_packages=("${library_packages[@]}" cmake g++ ninja-build unicode-data wayland-protocols)
 
 # The accessibility test starts a display and buses of its own, the phone's test a compositor and an
 # on-screen keyboard; the privacy test traces the app; what reads a journal reads the app's.

@@ -8,7 +8,7 @@
 #include "command/CommandLine.h"
 #include "platform/desktop/DesktopSettings.h"
 #include "platform/desktop/FatalNotification.h"
-#include "platform/desktop/OnScreenKeyboard.h"
+#include "platform/desktop/TextInput.h"
 #include "platform/foundation/Calendar.h"
 #include "platform/foundation/FatalError.h"
 #include "platform/foundation/UserDefaults.h"
@@ -133,9 +133,7 @@ int show(const Options& options, const PersistentContainer& store) {
                              root.perform(start);
                          });
     follow(desktop, *window);
-    std::optional<OnScreenKeyboard> keyboard;
-    if (OnScreenKeyboard::isCalledByApp())
-        keyboard.emplace();
+    const TextInput textInput;
     return QGuiApplication::exec();
 }
 
@@ -159,7 +157,7 @@ int main(int argc, char** argv) {
     if (options.pictures && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     chooseRenderer();
-    OnScreenKeyboard::takeFromQt();
+    TextInput::takeFromQt();
     const PersistentContainer store(QStringLiteral("Kovamo"), Transaction::entity());
     // While Qt starts.
     store.readAhead();

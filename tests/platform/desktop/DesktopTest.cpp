@@ -1,6 +1,6 @@
 #include "platform/desktop/DesktopSettings.h"
 #include "platform/desktop/FileChooser.h"
-#include "platform/desktop/OnScreenKeyboard.h"
+#include "platform/desktop/TextInput.h"
 #include "support/Server.h"
 #include "support/Stage.h"
 
@@ -98,39 +98,38 @@ TEST(FileChooser, TellsWhatIsChosen) {
     EXPECT_TRUE(Stage::soon([&] { return told == u"write /a b.csv"; })) << qPrintable(told);
 }
 
-class Keyboard : public QObject {
-    Q_OBJECT
-    Q_CLASSINFO("D-Bus Interface", "sm.puri.OSK0")
-  public Q_SLOTS:
-    void SetVisible(bool visible) { calls += visible ? '+' : '-'; }
-
+/// What an input method sends, without a compositor to bring it.
+class InputMethod : public TextInput {
   public:
-    std::string calls;
+    void send(const char* preedit, const char* commit, uint32_t before = 0, uint32_t after = 0) {
+        zwp_text_input_v3_preedit_string(preedit, 0, 0);
+        zwp_text_input_v3_commit_string(commit);
+        zwp_text_input_v3_delete_surrounding_text(before, after);
+        zwp_text_input_v3_done(0);
+    }
 };
 
-TEST(OnScreenKeyboard, ComesAndGoesWithTheFieldThatHasTheFocus) {
-    Keyboard keyboard;
-    Bus bus(QStringLiteral("sm.puri.OSK0"), QStringLiteral("/sm/puri/OSK0"), keyboard);
-    auto caller = std::make_unique<OnScreenKeyboard>(bus.app);
+TEST(TextInput, WritesWhatAnInputMethodSends) {
+    InputMethod method;
     Stage stage(R"(
-        FormTextField { objectName: "first"; next: second; width: 300 }
-        FormTextField { id: second; objectName: "second"; width: 300; y: 100 })",
+        FormTextField { id: one; objectName: "one"; width: 300; onEdited: text => one.text = text }
+        FormTextField { objectName: "other"; width: 300; y: 100 })",
                 true, "Kovamo.Forms");
-    const auto called = [&](const char* calls) {
-        EXPECT_TRUE(Stage::soon([&] { return keyboard.calls == calls; })) << keyboard.calls;
-    };
-    stage.click(stage.item("first"));
-    called("+");
-    stage.press(Qt::Key_Return);
-    stage.click(stage.item("second"));
-    called("++");
-    stage.press(Qt::Key_Return);
-    called("++-");
-    stage.click(stage.item("first"));
-    called("++-+");
-    caller.reset();
-    called("++-+-");
-    EXPECT_FALSE(OnScreenKeyboard::isCalledByApp()) << "only a phone's compositor shows one";
+    const auto text = [&] { return stage.item("one")->property("text").toString(); };
+    method.send("", "lost");
+    stage.click(stage.item("one"));
+    method.send("", "a\u20AC\U0001F355b");
+    EXPECT_EQ(text(), u"a\u20AC\U0001F355b") << "nothing had the focus before";
+    stage.press(Qt::Key_Left);
+    method.send("", "c", 4, 1);
+    EXPECT_EQ(text(), u"a\u20ACc") << "the lengths are in bytes of UTF-8";
+    method.send("", "", 99, 99);
+    method.send("ni", "");
+    EXPECT_EQ(text(), u"") << "the text before it is confirmed is the field's to show alone";
+    method.send("", "\u4F60");
+    method.send("hao", "");
+    stage.click(stage.item("other"));
+    EXPECT_EQ(text(), u"\u4F60hao") << "the tap elsewhere keeps it";
 }
 
 } // namespace
