@@ -196,6 +196,7 @@ TEST_F(Phone, ShowsTheAppUprightAndTurnedWithTheKeyboardUp) {
     EXPECT_TRUE(soon([&] { return keyboardShown() == u"true"; })) << "the tap opens no keyboard";
     EXPECT_TRUE(soon([&] { return screen().pixel(key1) != ground; }));
     finger->tap(key1, upright);
+    // Of a keyboard of letters, nothing would stay in the field.
     QPoint typed;
     EXPECT_TRUE(soon([&] { return (typed = caret()).x() > empty.x() + 5; })) << "no digit arrives";
     turn("90");

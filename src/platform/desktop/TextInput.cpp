@@ -51,6 +51,7 @@ class Manager : public QWaylandClientExtensionTemplate<Manager>,
     Q_DISABLE_COPY_MOVE(Manager)
 };
 
+/// Bound anew, for Qt shows its own only from 6.5 on.
 class Seat : public QWaylandClientExtensionTemplate<Seat> {
   public:
     Seat() : QWaylandClientExtensionTemplate(1) {}

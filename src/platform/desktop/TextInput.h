@@ -54,6 +54,7 @@ class TextInput : public QObject, protected QtWayland::zwp_text_input_v3 {
     void watch(QObject* focused);
     void write(const Edit& edit);
     void keepPreedit();
+    /// Says that `field` takes text, or, where it is null, that nothing does.
     void tell(QObject* field);
 
     std::unique_ptr<Globals> m_globals;
